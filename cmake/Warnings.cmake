@@ -1,0 +1,5 @@
+add_library(kelvora_warnings INTERFACE)
+target_compile_options(kelvora_warnings INTERFACE -Wall -Wextra -Wpedantic -ffp-contract=off)
+if(KELVORA_WERROR)
+    target_compile_options(kelvora_warnings INTERFACE -Werror)
+endif()

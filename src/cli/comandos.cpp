@@ -1,0 +1,44 @@
+#include "cli/comandos.h"
+
+#include <iostream>
+
+namespace kelvora::cli {
+
+namespace {
+
+int Version(const Argumentos&) {
+    std::cout << "Kelvora " << KELVORA_VERSION_MAJOR << '.' << KELVORA_VERSION_MINOR << '\n';
+    return kSalidaBien;
+}
+
+int Uso() {
+    std::cerr << "Uso: kelvora-cli COMANDO [ARGUMENTOS]\n";
+    for (const Comando& comando : Comandos()) {
+        std::cerr << "  " << comando.uso << '\n';
+    }
+    return kSalidaUso;
+}
+
+}  // namespace
+
+const std::vector<Comando>& Comandos() {
+    static const std::vector<Comando> comandos = {
+            {"--version", "--version", Version},
+    };
+    return comandos;
+}
+
+int Despachar(const Argumentos& argumentos) {
+    if (argumentos.empty()) {
+        return Uso();
+    }
+    for (const Comando& comando : Comandos()) {
+        if (argumentos.front() == comando.nombre) {
+            return comando.ejecutar(Argumentos(argumentos.begin() + 1, argumentos.end()));
+        }
+    }
+    std::cerr << "Comando desconocido: " << argumentos.front() << '\n';
+    return Uso();
+}
+
+}  // namespace kelvora::cli

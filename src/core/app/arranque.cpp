@@ -1,0 +1,26 @@
+#include "core/app/arranque.h"
+
+#include "core/app/opciones.h"
+#include "core/runtime/texto.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace kelvora {
+
+std::string ArchivoDeLineaComandos(const std::string& lineaComandos) {
+    return LimpiarTexto(lineaComandos, "\"");
+}
+
+bool IniciarContexto(ContextoAplicacion& contexto, const std::string& carpetaEjecutable,
+                     SettingsStore& ajustes, const ColoresSistema& sistema) {
+    DerivarRutas(contexto, carpetaEjecutable);
+    std::error_code ignorado;
+    std::filesystem::create_directories(contexto.RutaDatos, ignorado);
+    contexto.BDDisponible = true;
+    LeerOpciones(contexto, ajustes);
+    contexto.Colores = LlenarColores(sistema);
+    return true;
+}
+
+}  // namespace kelvora

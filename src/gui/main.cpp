@@ -1,0 +1,5 @@
+#include "gui/app/aplicacion.h"
+
+int main(int argc, char** argv) {
+    return kelvora::EjecutarAplicacion(argc, argv);
+}
