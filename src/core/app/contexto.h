@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/app/colores.h"
+#include "core/units/unidades.h"
 
 #include <cstdint>
 #include <string>
@@ -33,6 +34,8 @@ struct ContextoAplicacion {
     std::string RutaDatos;
     std::string CadenaConexion;
     bool BDDisponible = false;
+    /// The list the file reader fills before it hands it to a new window.
+    classUnidades Unidades;
     bool ConversionAutomatica = false;
     bool PreguntarAntesDeCerrarVentana = true;
     bool LeerEmisividadBD = true;
