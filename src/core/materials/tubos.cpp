@@ -1,13 +1,11 @@
 #include "core/materials/tubos.h"
 
-#include "core/runtime/numeros.h"
-#include "core/runtime/texto.h"
+#include "core/materials/sentencias.h"
 
 namespace kelvora {
 
 std::string TextoNominal(double nominal) {
-    std::string texto = TextoNumero(nominal);
-    return NormalizarDecimal(texto);
+    return NumeroSql(nominal);
 }
 
 RuntimeError ErrorTuboNoEncontrado(double nominal) {

@@ -1,0 +1,35 @@
+#include "core/materials/sondabd.h"
+
+#include "core/materials/conexion.h"
+#include "core/runtime/runtimeerror.h"
+
+namespace kelvora {
+
+std::string MensajeErrorConexion(const std::string& archivoBD, const std::string& descripcion) {
+    return "Se ha generado un error al intentar conectarse a la Base de Datos '" + archivoBD +
+           "':\n" + descripcion +
+           "\n\n\nHaga click en Aceptar para seguir con la aplicación. Algunas operaciones "
+           "serán desactivadas del Programa.\nHaga click en Cancelar para salir de la "
+           "aplicación.\nHaga click en Ayuda para obtener más información.";
+}
+
+bool ProbarBaseDatos(ContextoAplicacion& contexto, Prompter& prompter) {
+    contexto.BDDisponible = true;
+    Conexion sonda;
+    try {
+        sonda.Open(contexto.CadenaConexion);
+        return true;
+    } catch (const RuntimeError& error) {
+        contexto.BDDisponible = false;
+        Mensaje mensaje;
+        mensaje.texto = MensajeErrorConexion(contexto.ArchivoBD, error.description);
+        mensaje.botones = Botones::AceptarCancelar;
+        mensaje.icono = Icono::Informacion;
+        mensaje.titulo = kTituloAplicacion;
+        mensaje.contextoAyuda = kAyudaErrorConexion;
+        mensaje.modalSistema = true;
+        return prompter.MsgBox(mensaje) != Respuesta::Cancelar;
+    }
+}
+
+}  // namespace kelvora
