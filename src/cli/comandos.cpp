@@ -1,5 +1,7 @@
 #include "cli/comandos.h"
 
+#include "cli/convertir.h"
+
 #include <iostream>
 
 namespace kelvora::cli {
@@ -24,6 +26,8 @@ int Uso() {
 const std::vector<Comando>& Comandos() {
     static const std::vector<Comando> comandos = {
             {"--version", "--version", Version},
+            {"convertir", "convertir VALOR DESDE HASTA", ComandoConvertir},
+            {"unidades", "unidades [FAMILIA]", ComandoUnidades},
     };
     return comandos;
 }
