@@ -93,9 +93,9 @@ TEST(Variables, ModificarYAsignarSinDistinguirMayusculas) {
 
 TEST(Variables, AsignarUnaUnidadDesconocidaNoCambiaNada) {
     // clang-format off
-    const char* const refusadas[] = {"acre", "pies", "zzz", "", "m³/s"};
+    const char* const rechazadas[] = {"acre", "pies", "zzz", "", "m³/s"};
     // clang-format on
-    for (const char* unidad : refusadas) {
+    for (const char* unidad : rechazadas) {
         classUnidades lista;
         lista.AddVariable("Area", 3, "ha");
         try {
@@ -105,10 +105,7 @@ TEST(Variables, AsignarUnaUnidadDesconocidaNoCambiaNada) {
             EXPECT_EQ(e.number, 1003);
             EXPECT_EQ(e.description, std::string("La Unidad '") + unidad + "' no existe.");
         }
-        try {
-            lista.setUnitVariable("Otra", unidad);
-        } catch (const RuntimeError&) {
-        }
+        EXPECT_THROW(lista.setUnitVariable("Otra", unidad), RuntimeError);
         EXPECT_EQ(lista.Count(), 1) << unidad;
         EXPECT_EQ(lista.getUnitVariable("Area"), "ha") << unidad;
     }
