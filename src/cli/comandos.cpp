@@ -1,6 +1,7 @@
 #include "cli/comandos.h"
 
 #include "cli/convertir.h"
+#include "cli/materiales.h"
 
 #include <iostream>
 
@@ -28,6 +29,8 @@ const std::vector<Comando>& Comandos() {
             {"--version", "--version", Version},
             {"convertir", "convertir VALOR DESDE HASTA", ComandoConvertir},
             {"unidades", "unidades [FAMILIA]", ComandoUnidades},
+            {"materiales", "materiales", ComandoMateriales},
+            {"tubo", "tubo NOMINAL", ComandoTubo},
     };
     return comandos;
 }

@@ -1,6 +1,7 @@
 #include "core/app/arranque.h"
 
 #include "core/app/opciones.h"
+#include "core/materials/sondabd.h"
 #include "core/runtime/texto.h"
 
 #include <filesystem>
@@ -13,11 +14,13 @@ std::string ArchivoDeLineaComandos(const std::string& lineaComandos) {
 }
 
 bool IniciarContexto(ContextoAplicacion& contexto, const std::string& carpetaEjecutable,
-                     SettingsStore& ajustes, const ColoresSistema& sistema) {
+                     SettingsStore& ajustes, const ColoresSistema& sistema, Prompter& prompter) {
     DerivarRutas(contexto, carpetaEjecutable);
     std::error_code ignorado;
     std::filesystem::create_directories(contexto.RutaDatos, ignorado);
-    contexto.BDDisponible = true;
+    if (!ProbarBaseDatos(contexto, prompter)) {
+        return false;
+    }
     LeerOpciones(contexto, ajustes);
     contexto.Colores = LlenarColores(sistema);
     return true;

@@ -42,11 +42,15 @@ Sentencia PrepararUna(sqlite3* bd, std::string_view sql, const char** resto) {
     return Sentencia(sentencia);
 }
 
-// True when what follows the first statement holds another statement.
+// True when what follows the first statement holds another one, well formed or not.
 bool HaySegundaSentencia(sqlite3* bd, std::string_view resto) {
     while (!resto.empty()) {
+        sqlite3_stmt* sentencia = nullptr;
         const char* siguiente = nullptr;
-        if (PrepararUna(bd, resto, &siguiente) != nullptr) {
+        const int resultado = sqlite3_prepare_v2(bd, resto.data(), static_cast<int>(resto.size()),
+                                                 &sentencia, &siguiente);
+        sqlite3_finalize(sentencia);
+        if (resultado != SQLITE_OK || sentencia != nullptr) {
             return true;
         }
         resto.remove_prefix(static_cast<size_t>(siguiente - resto.data()));

@@ -3,6 +3,7 @@
 #include "core/app/arranque.h"
 #include "core/app/contexto.h"
 #include "gui/app/mdikelvora.h"
+#include "gui/platform/qtprompter.h"
 #include "gui/platform/qtsettingsstore.h"
 #include "gui/platform/texto.h"
 
@@ -32,8 +33,9 @@ int EjecutarAplicacion(int argc, char** argv) {
 
     ContextoAplicacion contexto;
     QtSettingsStore ajustes;
+    QtPrompter prompter;
     if (!IniciarContexto(contexto, S(QApplication::applicationDirPath()), ajustes,
-                         ColoresDelSistema())) {
+                         ColoresDelSistema(), prompter)) {
         return 0;
     }
     mdiKelvora principal(contexto);

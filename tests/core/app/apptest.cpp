@@ -126,14 +126,15 @@ TEST(Arranque, CreaLaCarpetaDeDatosEIgnoraFallos) {
     const auto raiz = std::filesystem::temp_directory_path() / "kelvora-arranque";
     std::filesystem::remove_all(raiz);
     SettingsMemoria ajustes;
+    prueba::PrompterGuion prompter;
     ContextoAplicacion c;
-    EXPECT_TRUE(IniciarContexto(c, raiz.string(), ajustes, {}));
+    EXPECT_TRUE(IniciarContexto(c, raiz.string(), ajustes, {}, prompter));
     EXPECT_TRUE(std::filesystem::is_directory(raiz / "Datos y Resultados"));
     EXPECT_EQ(c.Colores[4], RGB(0, 0, 255));
     EXPECT_EQ(c.Colores[6], RGB(102, 204, 255));
 
     ContextoAplicacion sinPermiso;
-    EXPECT_TRUE(IniciarContexto(sinPermiso, "/proc/kelvora", ajustes, {}));
+    EXPECT_TRUE(IniciarContexto(sinPermiso, "/proc/kelvora", ajustes, {}, prompter));
     std::filesystem::remove_all(raiz);
 }
 
