@@ -4,12 +4,16 @@
 
 namespace kelvora {
 
+RuntimeError ErrorNoConverge() {
+    return {errores::Desbordamiento, "El cálculo no converge"};
+}
+
 BombaSinVentana::BombaSinVentana(int64_t limite) : mLimite(limite) {
 }
 
 bool BombaSinVentana::DoEvents() {
     if (++mLlamadas > mLimite) {
-        throw RuntimeError(errores::Desbordamiento, "El cálculo no converge");
+        throw ErrorNoConverge();
     }
     return true;
 }

@@ -1,8 +1,13 @@
 #pragma once
 
+#include "core/runtime/runtimeerror.h"
+
 #include <cstdint>
 
 namespace kelvora {
+
+/// The error of a calculation that cannot converge: error 6, "El cálculo no converge".
+RuntimeError ErrorNoConverge();
 
 /// Lets pending window events run inside a long loop.
 class EventPump {
