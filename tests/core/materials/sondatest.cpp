@@ -1,12 +1,12 @@
 #include "bdtemporal.h"
 #include "core/app/arranque.h"
-#include "core/materials/sondabd.h"
 #include "support/dobles.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include <fstream>
+#include <functional>
 #include <memory>
 
 namespace kelvora {
@@ -17,112 +17,78 @@ namespace fs = std::filesystem;
 struct CerrarBD {
     void operator()(sqlite3* bd) const { sqlite3_close(bd); }
 };
-using Bloqueo = std::unique_ptr<sqlite3, CerrarBD>;
+// A connection of another program, kept open while the probe runs.
+using OtroPrograma = std::unique_ptr<sqlite3, CerrarBD>;
+using Preparar = std::function<OtroPrograma(const std::string&)>;
 
-Bloqueo Borrar(const std::string& archivo) {
-    fs::remove(archivo);
-    return nullptr;
+Preparar ConSqlite(const char* sql) {
+    return [sql](const std::string& archivo) {
+        sqlite3* bd = nullptr;
+        sqlite3_open(archivo.c_str(), &bd);
+        sqlite3_exec(bd, sql, nullptr, nullptr, nullptr);
+        return OtroPrograma(bd);
+    };
 }
 
-Bloqueo EscribirTexto(const std::string& archivo) {
-    std::ofstream(archivo) << std::string(2000, 'x');
-    return nullptr;
+Preparar Escribir(std::streamoff paso, const char* texto) {
+    return [=](const std::string& archivo) {
+        std::fstream flujo(archivo, std::ios::in | std::ios::out | std::ios::binary);
+        const auto tamano = static_cast<std::streamoff>(fs::file_size(archivo));
+        for (std::streamoff pos = paso; pos < tamano; pos += paso) {
+            flujo.seekp(pos);
+            flujo << texto;
+        }
+        return nullptr;
+    };
 }
 
-Bloqueo SinTablas(const std::string& archivo) {
-    fs::remove(archivo);
-    sqlite3* bd = nullptr;
-    sqlite3_open(archivo.c_str(), &bd);
-    sqlite3_exec(bd, "CREATE TABLE Otra (x)", nullptr, nullptr, nullptr);
-    sqlite3_close(bd);
-    return nullptr;
-}
-
-Bloqueo SinTubos(const std::string& archivo) {
-    sqlite3* bd = nullptr;
-    sqlite3_open(archivo.c_str(), &bd);
-    sqlite3_exec(bd, "DROP TABLE Tubos", nullptr, nullptr, nullptr);
-    sqlite3_close(bd);
-    return nullptr;
-}
-
-// Garbage over the header of every page but the first: the tables' pages are damaged.
-Bloqueo Danar(const std::string& archivo) {
-    std::fstream flujo(archivo, std::ios::in | std::ios::out | std::ios::binary);
-    const auto tamano = static_cast<std::streamoff>(fs::file_size(archivo));
-    for (std::streamoff pagina = 4096; pagina < tamano; pagina += 4096) {
-        flujo.seekp(pagina);
-        flujo << "basura basura";
-    }
-    return nullptr;
-}
-
-Bloqueo Truncar(const std::string& archivo) {
-    fs::resize_file(archivo, 8192);
-    return nullptr;
-}
-
-// Another program writing: an exclusive lock held until the returned handle closes.
-Bloqueo Bloquear(const std::string& archivo) {
-    sqlite3* bd = nullptr;
-    sqlite3_open(archivo.c_str(), &bd);
-    sqlite3_exec(bd, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
-    return Bloqueo(bd);
+std::string TextoEsperado(const std::string& archivo, const std::string& descripcion) {
+    return "Se ha generado un error al intentar conectarse a la Base de Datos '" + archivo +
+           "':\n" + descripcion +
+           "\n\n\nHaga click en Aceptar para seguir con la aplicación. Algunas operaciones serán "
+           "desactivadas del Programa.\nHaga click en Cancelar para salir de la aplicación.\n"
+           "Haga click en Ayuda para obtener más información.";
 }
 
 TEST(Sonda, CadaFalloDaElMensajeYSeSigueConAceptar) {
-    struct Caso {
-        const char* nombre;
-        Bloqueo (*preparar)(const std::string&);
-        const char* descripcion;
+    const auto borrar = [](const std::string& archivo) {
+        fs::remove(archivo);
+        return OtroPrograma();
+    };
+    const auto truncar = [](const std::string& archivo) {
+        fs::resize_file(archivo, 8192);
+        return OtroPrograma();
     };
     // clang-format off
-    const Caso casos[] = {
-        {"falta",        Borrar,        "unable to open database file"},
-        {"otro formato", EscribirTexto, "file is not a database"},
-        {"sin tablas",   SinTablas,     "no such table: Emisividad"},
-        {"sin Tubos",    SinTubos,      "no such table: Tubos"},
-        {"dañada",       Danar,         "database disk image is malformed"},
-        {"truncada",     Truncar,       "database disk image is malformed"},
-        {"bloqueada",    Bloquear,      "database is locked"},
+    const std::tuple<const char*, Preparar, const char*> casos[] = {
+        {"falta",        borrar,                              "unable to open database file"},
+        {"otro formato", Escribir(1, "x"),                    "file is not a database"},
+        {"sin tablas",   ConSqlite("DROP TABLE Emisividad"),  "no such table: Emisividad"},
+        {"sin Tubos",    ConSqlite("DROP TABLE Tubos"),       "no such table: Tubos"},
+        {"dañada",       Escribir(4096, "basura basura"),     "database disk image is malformed"},
+        {"truncada",     truncar,                             "database disk image is malformed"},
+        {"bloqueada",    ConSqlite("BEGIN EXCLUSIVE"),        "database is locked"},
     };
     // clang-format on
-    for (const Caso& caso : casos) {
+    for (const auto& [nombre, preparar, descripcion] : casos) {
         prueba::BDTemporal bd;
-        const Bloqueo bloqueo = caso.preparar(bd.archivo);
+        const OtroPrograma otro = preparar(bd.archivo);
         ContextoAplicacion c;
         prueba::SettingsMemoria ajustes;
         prueba::PrompterGuion prompter;
-        EXPECT_TRUE(IniciarContexto(c, bd.carpeta.string(), ajustes, {}, prompter)) << caso.nombre;
-        EXPECT_FALSE(c.BDDisponible) << caso.nombre;
-        EXPECT_EQ(ajustes.lecturas, 14) << caso.nombre;
-        ASSERT_EQ(prompter.mensajes.size(), 1u) << caso.nombre;
+        EXPECT_TRUE(IniciarContexto(c, bd.carpeta.string(), ajustes, {}, prompter)) << nombre;
+        EXPECT_FALSE(c.BDDisponible) << nombre;
+        EXPECT_EQ(ajustes.lecturas, 14) << nombre;
+        ASSERT_EQ(prompter.mensajes.size(), 1u) << nombre;
         const Mensaje& m = prompter.mensajes.front();
-        EXPECT_EQ(m.texto, MensajeErrorConexion(bd.archivo, caso.descripcion)) << caso.nombre;
-        EXPECT_EQ(m.botones, Botones::AceptarCancelar);
+        EXPECT_EQ(m.texto, TextoEsperado(bd.archivo, descripcion)) << nombre;
         EXPECT_EQ(NombreBotones(m), "Aceptar,Cancelar,Ayuda");
         EXPECT_EQ(m.contextoAyuda, 120);
         EXPECT_EQ(m.icono, Icono::Informacion);
         EXPECT_EQ(m.titulo, "Kelvora");
         EXPECT_TRUE(m.modalSistema);
+        EXPECT_EQ(fs::exists(bd.archivo), std::string(nombre) != "falta");
     }
-}
-
-TEST(Sonda, ElMensajeCompletoYNingunArchivoCreado) {
-    prueba::BDTemporal bd;
-    fs::remove(bd.archivo);
-    ContextoAplicacion c;
-    DerivarRutas(c, bd.carpeta.string());
-    prueba::PrompterGuion prompter;
-    EXPECT_TRUE(ProbarBaseDatos(c, prompter));
-    EXPECT_FALSE(fs::exists(bd.archivo));
-    ASSERT_EQ(prompter.mensajes.size(), 1u);
-    EXPECT_EQ(prompter.mensajes[0].texto,
-              "Se ha generado un error al intentar conectarse a la Base de Datos '" + bd.archivo +
-                      "':\nunable to open database file\n\n\nHaga click en Aceptar para seguir "
-                      "con la aplicación. Algunas operaciones serán desactivadas del Programa.\n"
-                      "Haga click en Cancelar para salir de la aplicación.\nHaga click en Ayuda "
-                      "para obtener más información.");
 }
 
 TEST(Sonda, CancelarTerminaSinTocarLosAjustes) {
