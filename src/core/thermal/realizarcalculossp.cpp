@@ -174,7 +174,10 @@ void CalculoSP::Practico(Posicion& p) {
     BloqueCalculo& b = p.bloquePractico;
     const double E = mEspesorPractico;
     b.E = E;
-    mPaso(p.q, [&] { return Dividir(Comprobar(mTI - ideal.TS), Dividir(E, ideal.k)); });
+    mPaso(p.q, [&] {
+        const double salto = Comprobar(mTI - ideal.TS);
+        return Dividir(salto, Dividir(E, ideal.k));
+    });
     mPaso(p.practica,
           [&] { return BiseccionSuperficie(p.q, p.C, pelicula, mEs, mTS, mVentana.Bomba()); });
     if (!p.practica.convergio) {
