@@ -379,5 +379,183 @@ TEST(RealizarCalculosFrio, CasosCalculadosIndependientemente) {
     }
 }
 
+struct CasoError {
+    const char* nombre;
+    TipoResultados tipo;
+    int32_t producto;
+    std::function<bool(Entorno&)> calcular;
+    const char* mensaje;
+};
+
+// Every failure ends with one exclamation box under the application's title, False, and an
+// empty grid.
+TEST(ErroresDeCalculo, MensajeYResultadoFalso) {
+    const std::vector<CasoError> casos = {
+            {"espesor practico 0", TipoResultados::SuperficiesPlanas, 1,
+             [](Entorno& e) {
+                 auto a = Sp(150, 148, 80, 0, 0.9, 0.9, 7);
+                 return RealizarCalculosSP(e.ventana, a);
+             },
+             "Error inesperado: División por cero"},
+            {"sin unidad visual", TipoResultados::SuperficiesPlanas, 1,
+             [](Entorno& e) {
+                 auto a = Sp(600, 140, 80, 0, 0.9, 0.8, 7);
+                 a.unidades = {"°F"};
+                 return RealizarCalculosSP(e.ventana, a);
+             },
+             "Error inesperado: El subíndice está fuera del intervalo"},
+            {"nominal ausente", TipoResultados::SuperficiesCilindricas, 9,
+             [](Entorno& e) {
+                 auto a = Sc(450, 130, 75, 3, 5, 2, 0.85);
+                 return RealizarCalculosSC(e.ventana, a, e.tubos);
+             },
+             "Error inesperado: No se encontró un diámetro de 5 plg en la Base de Datos."},
+            {"producto 12 lee la tabla sobre 14", TipoResultados::SuperficiesCilindricas, 12,
+             [](Entorno& e) {
+                 auto a = Sc(450, 130, 75, 3, 14.7, 2, 0.85);
+                 return RealizarCalculosSC(e.ventana, a, e.tubos);
+             },
+             "Error inesperado: No se encontró un diámetro de 14.7 plg en la Base de Datos."},
+            {"modo grafica de tuberia", TipoResultados::SuperficiesCilindricas, 9,
+             [](Entorno& e) {
+                 auto a = Sc(450, 130, 75, 3, 2.5, 2, 0.85);
+                 a.modoGrafica = true;
+                 a.tipoGrafica = 1;
+                 return RealizarCalculosSC(e.ventana, a, e.tubos);
+             },
+             "Error inesperado: No se encontró un diámetro de 2.5 plg en la Base de Datos."},
+            {"TS igual a TI", TipoResultados::SuperficiesPlanasFrio, 13,
+             [](Entorno& e) {
+                 return RealizarCalculosSPFrio(e.ventana, SpFrio(40, 40, 90, 4, 0.15, 0.9, 0.3));
+             },
+             "Error inesperado: Desbordamiento"},
+            {"seccion mayor que Tres", TipoResultados::SuperficiesCilindricasFrio, 14,
+             [](Entorno& e) {
+                 return RealizarCalculosSCFrio(e.ventana, ScFrio(-20, 56, 95, 2, 8, 3), e.tubos);
+             },
+             "Orbelas de mas de 4 plg de espesor, no prevista en este programa"},
+            {"tubo frio ausente", TipoResultados::SuperficiesCilindricasFrio, 14,
+             [](Entorno& e) {
+                 return RealizarCalculosSCFrio(e.ventana, ScFrio(-20, 56, 95, 2, 0.16, 16),
+                                               e.tubos);
+             },
+             "Error inesperado: No se encontró un diámetro de 16 plg en la Base de Datos."},
+    };
+    for (const CasoError& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        Entorno e(caso.tipo, caso.producto);
+        EXPECT_FALSE(caso.calcular(e));
+        ASSERT_EQ(e.prompter.mensajes.size(), 1u);
+        const Mensaje& m = e.prompter.mensajes.front();
+        EXPECT_EQ(m.texto, caso.mensaje);
+        EXPECT_EQ(m.icono, Icono::Exclamacion);
+        EXPECT_EQ(m.botones, Botones::Aceptar);
+        EXPECT_EQ(m.titulo, "Kelvora");
+        EXPECT_EQ(e.ventana.MSFG().Rows(), 0);
+    }
+}
+
+// A window closed while events run stops its calculation at once, without a message.
+TEST(ErroresDeCalculo, VentanaCerradaTerminaSinMensaje) {
+    const std::vector<CasoError> casos = {
+            {"SP", TipoResultados::SuperficiesPlanas, 1,
+             [](Entorno& e) {
+                 auto a = Sp(600, 140, 80, 0, 0.9, 0.8, 7);
+                 return RealizarCalculosSP(e.ventana, a);
+             },
+             ""},
+            {"SC", TipoResultados::SuperficiesCilindricas, 9,
+             [](Entorno& e) {
+                 auto a = Sc(450, 130, 75, 3, 3, 2, 0.85);
+                 return RealizarCalculosSC(e.ventana, a, e.tubos);
+             },
+             ""},
+            {"SPFrio", TipoResultados::SuperficiesPlanasFrio, 13,
+             [](Entorno& e) {
+                 return RealizarCalculosSPFrio(e.ventana, SpFrio(0, 51, 90, 4, 0.15, 0.9, 0.3));
+             },
+             ""},
+            {"SCFrio", TipoResultados::SuperficiesCilindricasFrio, 14,
+             [](Entorno& e) {
+                 return RealizarCalculosSCFrio(e.ventana, ScFrio(-20, 56, 95, 2, 0.16, 3), e.tubos);
+             },
+             ""},
+    };
+    for (const CasoError& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        Entorno e(caso.tipo, caso.producto);
+        e.bomba.cerrarTras = 3;
+        EXPECT_FALSE(caso.calcular(e));
+        EXPECT_EQ(e.bomba.llamadas, 3);
+        EXPECT_TRUE(e.prompter.mensajes.empty());
+        EXPECT_EQ(e.ventana.MSFG().Rows(), 0);
+    }
+}
+
+TEST(ErroresDeCalculo, BombaSinVentanaCortaElCalculo) {
+    classUnidades unidades;
+    PrompterGuion prompter;
+    BombaSinVentana bomba(10);
+    ModeloResultados ventana(TipoResultados::SuperficiesPlanasFrio, unidades, prompter, bomba);
+    ventana.SetTipoAnalisis(13);
+    EXPECT_FALSE(RealizarCalculosSPFrio(ventana, SpFrio(0, 51, 90, 4, 0.15, 0.9, 0.3)));
+    ASSERT_EQ(prompter.mensajes.size(), 1u);
+    EXPECT_EQ(prompter.mensajes.front().texto, "Error inesperado: El cálculo no converge");
+}
+
+// In chart mode the flat routine goes on past a failed step and reports what it arrived at.
+// Case 150/148/80: the least ideal thickness rounds to 0, so every practical target flux fails
+// and stays 0; the vertical bisection on 0 settles at 80.006591796875 °F, where
+// Qrad + Qconv = 0.006897342950286358 (referencia.py); f' fails and Ef' is then 100.
+TEST(ModoGrafica, PlanaReanudaTrasElError) {
+    Entorno e(TipoResultados::SuperficiesPlanas, 1);
+    auto a = Sp(150, 148, 80, 0, 0.9, 0.9, 7);
+    a.modoGrafica = true;
+    a.tipoGrafica = 2;
+    a.espesorGrafica = -1;
+    EXPECT_TRUE(RealizarCalculosSP(e.ventana, a));
+    EXPECT_TRUE(e.prompter.mensajes.empty());
+    EXPECT_EQ(a.espesorGrafica, 0);
+    EXPECT_NEAR(a.valorGrafica, 0.006897342950286358, 1e-15);
+    EXPECT_EQ(e.ventana.MSFG().Rows(), 0);
+    EXPECT_EQ(e.ventana.Resultado(45), 0);
+    EXPECT_EQ(e.ventana.Valores().Texto("MaterialSA"), "");
+}
+
+TEST(ModoGrafica, SalidasPorTipo) {
+    struct Caso {
+        int16_t tipo;
+        double espesor;
+        double valor;
+    };
+    // Case SP1: practical thickness 1.5, input TS 140; another type leaves both as they were.
+    // clang-format off
+    const std::vector<Caso> planas = {
+        {1,  1.5, 140},
+        {3, -1,   -1},
+    };
+    // clang-format on
+    for (const Caso& caso : planas) {
+        Entorno e(TipoResultados::SuperficiesPlanas, 1);
+        auto a = Sp(600, 140, 80, 0, 0.9, 0.8, 7);
+        a.modoGrafica = true;
+        a.tipoGrafica = caso.tipo;
+        a.espesorGrafica = -1;
+        a.valorGrafica = -1;
+        EXPECT_TRUE(RealizarCalculosSP(e.ventana, a));
+        EXPECT_EQ(a.espesorGrafica, caso.espesor);
+        EXPECT_EQ(a.valorGrafica, caso.valor);
+    }
+    // Case SC1: the horizontal practical block, thickness 1 and Qt per foot.
+    Entorno e(TipoResultados::SuperficiesCilindricas, 9);
+    auto a = Sc(450, 130, 75, 3, 3, 2, 0.85);
+    a.modoGrafica = true;
+    a.tipoGrafica = 2;
+    EXPECT_TRUE(RealizarCalculosSC(e.ventana, a, e.tubos));
+    EXPECT_EQ(a.espesorGrafica, 1);
+    EXPECT_NEAR(a.valorGrafica, 150.401519818077, 1e-9);
+    EXPECT_EQ(e.ventana.MSFG().Rows(), 0);
+}
+
 }  // namespace
 }  // namespace kelvora
