@@ -1,6 +1,7 @@
 #include "core/app/contexto.h"
 #include "core/app/opciones.h"
 #include "gui/app/mdikelvora.h"
+#include "gui/app/relojsistema.h"
 #include "gui/platform/qteventpump.h"
 #include "gui/platform/qtsettingsstore.h"
 
@@ -48,7 +49,10 @@ void PlataformaTest::bombaDetectaVentanaCerrada() {
 
 void PlataformaTest::tituloDeLaVentanaPrincipal() {
     ContextoAplicacion contexto;
-    mdiKelvora ventana(contexto);
+    QTemporaryDir carpeta;
+    QtSettingsStore ajustes(carpeta.filePath(QStringLiteral("Kelvora.ini")));
+    RelojSistema reloj;
+    mdiKelvora ventana(contexto, ajustes, reloj);
     QCOMPARE(ventana.windowTitle(),
              QStringLiteral("Fornalis S.A. - Cálculo de Aislamiento Óptimo - Kelvora"));
 }

@@ -2,7 +2,12 @@
 
 #include "core/app/arranque.h"
 #include "core/app/contexto.h"
+#include "gui/app/fabricaprograma.h"
+#include "gui/app/frmsplash.h"
 #include "gui/app/mdikelvora.h"
+#include "gui/app/promptersplash.h"
+#include "gui/app/relojsistema.h"
+#include "gui/app/traspasoinstancia.h"
 #include "gui/platform/qtprompter.h"
 #include "gui/platform/qtsettingsstore.h"
 #include "gui/platform/texto.h"
@@ -24,6 +29,21 @@ ColoresSistema ColoresDelSistema() {
             ColorDe(paleta.color(QPalette::Base))};
 }
 
+// The arguments as one line, as the command line reached the program.
+std::string LineaComandos() {
+    QStringList argumentos = QApplication::arguments();
+    argumentos.removeFirst();
+    return S(argumentos.join(QLatin1Char(' ')));
+}
+
+void MostrarSplash(frmSplash& splash) {
+    splash.show();
+    splash.raise();
+    splash.activateWindow();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QApplication::processEvents();
+}
+
 }  // namespace
 
 int EjecutarAplicacion(int argc, char** argv) {
@@ -31,16 +51,47 @@ int EjecutarAplicacion(int argc, char** argv) {
     QApplication::setApplicationName(QString::fromUtf8(kTituloAplicacion));
     EstablecerLocaleDesdeQt();
 
-    ContextoAplicacion contexto;
-    QtSettingsStore ajustes;
-    QtPrompter prompter;
-    if (!IniciarContexto(contexto, S(QApplication::applicationDirPath()), ajustes,
-                         ColoresDelSistema(), prompter)) {
+    const std::string archivo = ArchivoDeLineaComandos(LineaComandos());
+    const QString canal = CanalTraspaso();
+    if (!archivo.empty() && EnviarArchivoInstanciaPrevia(canal, archivo)) {
         return 0;
     }
-    mdiKelvora principal(contexto);
+
+    ContextoAplicacion contexto;
+    frmSplash splash(contexto);
+    MostrarSplash(splash);
+    QtSettingsStore ajustes;
+    QtPrompter cajas;
+    PrompterSplash prompter(cajas, contexto, &splash);
+    if (!IniciarContexto(contexto, S(QApplication::applicationDirPath()), ajustes,
+                         ColoresDelSistema(), prompter)) {
+        QApplication::restoreOverrideCursor();
+        return 0;
+    }
+
+    RelojSistema reloj;
+    mdiKelvora principal(contexto, ajustes, reloj);
+    principal.PonerSplash(&splash);
+    principal.PonerFabrica(CrearFabrica(principal, contexto, ajustes, prompter));
     principal.show();
-    return QApplication::exec();
+    // The frame's receiver for file names handed over by a second instance.
+    ReceptorTraspaso receptor(canal, [&principal](const std::string& recibido) {
+        principal.AbrirArchivoInicio(recibido);
+    });
+    receptor.Escuchar();
+    QObject::connect(&aplicacion, &QGuiApplication::commitDataRequest, &principal,
+                     &mdiKelvora::CerrarSinPreguntas);
+
+    if (!archivo.empty()) {
+        principal.AbrirArchivoInicio(archivo);
+    }
+    if (contexto.SplashVisible) {
+        splash.update();
+    }
+    QApplication::restoreOverrideCursor();
+    const int salida = QApplication::exec();
+    receptor.Detener();
+    return salida;
 }
 
 }  // namespace kelvora
