@@ -21,7 +21,7 @@ constexpr double kEficienciaMaxima = 100;
 constexpr const char* kEficienciaVacia = "100";
 constexpr const char* kFormatoMonto = "0,000.0#";
 
-std::string Control(const char* nombre, int indice) {
+std::string NombreControl(const char* nombre, int indice) {
     return std::string(nombre) + "_" + std::to_string(indice);
 }
 
@@ -127,7 +127,7 @@ void ModeloEconomico::SetText(int indice, const std::string& texto) {
 }
 
 void ModeloEconomico::Escribir(int indice, const std::string& texto) {
-    CajaTexto& caja = mCajas.at(indice);
+    CajaAnalisis& caja = mCajas.at(indice);
     if (caja.Text == texto) {
         return;
     }
@@ -141,7 +141,7 @@ void ModeloEconomico::Habilitar(int indice, bool habilitar) {
 }
 
 void ModeloEconomico::txtValor_GotFocus(int indice) {
-    mFoco = Control("txtValor", indice);
+    mFoco = NombreControl("txtValor", indice);
     if (indice == mVentana.eficiencia.indice && mCajas.at(indice).Text.empty()) {
         Escribir(indice, kEficienciaVacia);
     }
@@ -179,7 +179,7 @@ void ModeloEconomico::SeleccionarUnidad(int indice, int entrada) {
 // A change of unit or currency with a result shown computes it again at once; the currency
 // has no conversion, so its amounts keep their numbers under the new symbol.
 void ModeloEconomico::cboUnidad_Click(int indice) {
-    ListaTexto& lista = mUnidades.at(indice);
+    ListaAnalisis& lista = mUnidades.at(indice);
     if (indice != mVentana.valor.indice && mContexto.ConversionAutomatica) {
         Escribir(indice, ConvertirCampo(mCajas.at(indice).Text, lista.Tag, lista.Text, mPrompter));
     }
@@ -189,7 +189,7 @@ void ModeloEconomico::cboUnidad_Click(int indice) {
     }
 }
 
-void ModeloEconomico::Seleccionar(ListaTexto& lista, int entrada) {
+void ModeloEconomico::Seleccionar(ListaAnalisis& lista, int entrada) {
     lista.ListIndex =
             entrada >= 0 && entrada < static_cast<int>(lista.entradas.size()) ? entrada : -1;
     lista.Text = lista.ListIndex >= 0 ? lista.entradas[static_cast<size_t>(entrada)] : "";
@@ -377,18 +377,18 @@ bool ModeloEconomico::Comprobar() {
     const int nombre = mVentana.nombreCombustible.indice;
     if (combustible->escrito && Trim(mCajas.at(nombre).Text).empty()) {
         return Rechazar("Por favor ingrese el Nombre del combustible utilizado.",
-                        Control("txtValor", nombre));
+                        NombreControl("txtValor", nombre));
     }
     const CajaEconomica& valor = mVentana.valor;
     if (Val(Trim(mCajas.at(valor.indice).Text)) <= 0) {
         return Rechazar(std::string("El ") + valor.toolTip + " debe ser mayor que cero.",
-                        Control("txtValor", valor.indice));
+                        NombreControl("txtValor", valor.indice));
     }
     // The message says 1, but 0 passes and fails later as a division by zero.
     const double eficiencia = Val(Trim(mCajas.at(mVentana.eficiencia.indice).Text));
     if (eficiencia < 0 || eficiencia > kEficienciaMaxima) {
         return Rechazar("La Eficiencia del Equipo debe estar en el rango [1, 100].",
-                        Control("txtValor", mVentana.eficiencia.indice));
+                        NombreControl("txtValor", mVentana.eficiencia.indice));
     }
     return true;
 }
@@ -398,7 +398,7 @@ bool ModeloEconomico::ComprobarDimensiones() {
     const std::string inicial = std::string(mVentana.articuloInicial) + " ";
     for (const CajaEconomica& caja : mVentana.dimensiones) {
         const std::string texto = Trim(mCajas.at(caja.indice).Text);
-        const std::string foco = Control("txtValor", caja.indice);
+        const std::string foco = NombreControl("txtValor", caja.indice);
         if (!IsNumeric(texto)) {
             return Rechazar("Por favor ingrese " + articulo + caja.toolTip + ".", foco);
         }
@@ -407,7 +407,7 @@ bool ModeloEconomico::ComprobarDimensiones() {
         }
         if (mUnidades.at(caja.indice).ListIndex < 0) {
             return Rechazar("Por favor seleccione la unidad para " + articulo + caja.toolTip + ".",
-                            Control("cboUnidad", caja.indice));
+                            NombreControl("cboUnidad", caja.indice));
         }
     }
     return true;

@@ -22,20 +22,20 @@ class EventPump;
 class Clock;
 
 /// A text box or label as the model keeps it.
-struct CajaTexto {
+struct CajaAnalisis {
     std::string Text;
     bool Enabled = true;
     std::string ToolTipText;
 };
 
-struct EtiquetaTexto {
+struct EtiquetaAnalisis {
     std::string Caption;
     bool Enabled = true;
 };
 
 /// A list: its entries, the selected one (-1 for none) and its text; `Tag` holds the unit in
 /// force for a unit list.
-struct ListaTexto {
+struct ListaAnalisis {
     std::vector<std::string> entradas;
     int ListIndex = -1;
     std::string Text;
@@ -71,11 +71,11 @@ public:
     double QSA(int orientacion) const;
 
     /// Boxes, labels and lists by their index (`txtValor`, `lblEtiqueta`, `cboUnidad`).
-    const CajaTexto& txtValor(int indice) const { return mCajas.at(indice); }
-    const EtiquetaTexto& lblEtiqueta(int indice) const { return mEtiquetas.at(indice); }
-    const ListaTexto& cboUnidad(int indice) const { return mUnidades.at(indice); }
-    const ListaTexto& cboHorasTrabajadas() const { return mHoras; }
-    const ListaTexto& cboCombustibleUtilizado() const { return mCombustible; }
+    const CajaAnalisis& txtValor(int indice) const { return mCajas.at(indice); }
+    const EtiquetaAnalisis& lblEtiqueta(int indice) const { return mEtiquetas.at(indice); }
+    const ListaAnalisis& cboUnidad(int indice) const { return mUnidades.at(indice); }
+    const ListaAnalisis& cboHorasTrabajadas() const { return mHoras; }
+    const ListaAnalisis& cboCombustibleUtilizado() const { return mCombustible; }
     const std::string& lblEstado() const { return mEstado; }
     bool cmdAceptarEnabled() const { return mAceptarHabilitado; }
     bool fraResultadosEnabled() const { return mResultadosHabilitados; }
@@ -131,7 +131,7 @@ private:
     void cboUnidad_Click(int indice);
     void Escribir(int indice, const std::string& texto);
     void Habilitar(int indice, bool habilitar);
-    void Seleccionar(ListaTexto& lista, int entrada);
+    void Seleccionar(ListaAnalisis& lista, int entrada);
     bool Completo() const;
     bool EsNombre(int indice) const;
     bool EsResultado(int indice) const;
@@ -151,11 +151,11 @@ private:
     Clock& mReloj;
     std::function<void()> mActualizar;
 
-    std::map<int, CajaTexto> mCajas;
-    std::map<int, EtiquetaTexto> mEtiquetas;
-    std::map<int, ListaTexto> mUnidades;
-    ListaTexto mHoras;
-    ListaTexto mCombustible;
+    std::map<int, CajaAnalisis> mCajas;
+    std::map<int, EtiquetaAnalisis> mEtiquetas;
+    std::map<int, ListaAnalisis> mUnidades;
+    ListaAnalisis mHoras;
+    ListaAnalisis mCombustible;
     std::string mEstado;
     bool mAceptarHabilitado = false;
     bool mResultadosHabilitados = false;
