@@ -1,0 +1,59 @@
+#include "gui/capturas/capturas.h"
+
+#include "gui/app/fabricaprograma.h"
+#include "gui/app/frmaboutbox.h"
+#include "gui/app/frmsplash.h"
+#include "gui/app/mdikelvora.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace kelvora {
+
+namespace {
+
+std::unique_ptr<QWidget> Principal(EntornoCaptura& e) {
+    auto ventana = std::make_unique<mdiKelvora>(e.contexto, e.ajustes, e.reloj);
+    ventana->PonerFabrica(CrearFabrica(*ventana, e.contexto, e.ajustes, *e.prompter));
+    ventana->resize(900, 600);
+    return ventana;
+}
+
+// Opens a menu of the main window's bar under its title.
+std::function<QWidget*(QWidget&)> AbrirMenu(const char* nombre) {
+    return [nombre](QWidget& ventana) -> QWidget* {
+        auto* menu = ventana.findChild<QMenu*>(QString::fromLatin1(nombre));
+        auto* barra = ventana.findChild<QMenuBar*>();
+        const QRect titulo = barra->actionGeometry(menu->menuAction());
+        menu->popup(barra->mapToGlobal(titulo.bottomLeft()));
+        return menu;
+    };
+}
+
+}  // namespace
+
+std::string AjustesMemoria::GetSetting(const std::string& aplicacion, const std::string& seccion,
+                                       const std::string& clave,
+                                       const std::string& predeterminado) {
+    const auto it = mValores.find({aplicacion, seccion, clave});
+    return it == mValores.end() ? predeterminado : it->second;
+}
+
+void AjustesMemoria::SaveSetting(const std::string& aplicacion, const std::string& seccion,
+                                 const std::string& clave, const std::string& valor) {
+    mValores[{aplicacion, seccion, clave}] = valor;
+}
+
+const std::vector<Captura>& Capturas() {
+    // clang-format off
+    static const std::vector<Captura> capturas = {
+        {"mdikelvora",         Principal, {}},
+        {"mdikelvora-archivo", Principal, AbrirMenu("mnuArchivo")},
+        {"frmsplash",  [](EntornoCaptura& e) { return std::make_unique<frmSplash>(e.contexto); }, {}},
+        {"frmaboutbox", [](EntornoCaptura&) { return std::make_unique<frmAboutBox>(); }, {}},
+    };
+    // clang-format on
+    return capturas;
+}
+
+}  // namespace kelvora
