@@ -352,14 +352,17 @@ void PrincipalTest::cierrePreguntaACadaVentanaYParaEnCancelar() {
     FabricaVentanas fabrica = FabricaCompleta();
     fabrica.PreguntarGuardar = [&](QWidget* ventana) {
         preguntadas.push_back(ventana->windowTitle());
-        return !(cancelar && ventana->windowTitle() == QStringLiteral("C"));
+        return !(cancelar && FileStateDe(ventana) == 2);
     };
     m.ventana.PonerFabrica(fabrica);
     m.ventana.show();
     QVERIFY(QTest::qWaitForWindowExposed(&m.ventana));
     NuevaHija(m.ventana, "A", "1");
     NuevaHija(m.ventana, "B", "0");
-    NuevaHija(m.ventana, "C", "12");
+    QWidget* cambiada = NuevaHija(m.ventana, "C", "12");
+    cambiada->setProperty(kPropiedadFileName, QStringLiteral("/datos/c.adk"));
+    cambiada->setProperty(kPropiedadFileState, 2);
+    QCOMPARE(FileNameDe(cambiada), QStringLiteral("/datos/c.adk"));
     NuevaHija(m.ventana, "D", "5");
 
     QVERIFY(!m.ventana.close());

@@ -42,10 +42,6 @@ BarraEstado::BarraEstado(Clock& reloj, QWidget* padre) : QStatusBar(padre), mRel
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-void BarraEstado::PonerTexto(int panel, const QString& texto) {
-    mPaneles.at(static_cast<size_t>(panel - 1))->setText(texto);
-}
-
 QLabel* BarraEstado::NuevoPanel(int numero, const QString& texto) {
     auto* panel = new QLabel(texto, this);
     panel->setObjectName(QStringLiteral("stbStatusBar_%1").arg(numero));

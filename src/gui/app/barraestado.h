@@ -18,9 +18,6 @@ class BarraEstado : public QStatusBar {
 public:
     explicit BarraEstado(Clock& reloj, QWidget* padre = nullptr);
 
-    /// Text panel 1 or 2.
-    void PonerTexto(int panel, const QString& texto);
-
 protected:
     bool event(QEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;

@@ -52,10 +52,6 @@ constexpr ComandoProducto kProductos[] = {
 constexpr char kFiltroAbrir[] =
         "Archivo de datos Kelvora (*.adk);;Archivos de Texto (*.txt);;Todos los Archivos (*.*)";
 
-void Habilitar(QAction* accion, bool habilitada) {
-    accion->setEnabled(habilitada);
-}
-
 }  // namespace
 
 mdiKelvora::mdiKelvora(ContextoAplicacion& contexto, SettingsStore& ajustes, Clock& reloj,
@@ -148,17 +144,17 @@ void mdiKelvora::Actualizar() {
     const std::string impresora = mFabrica.NombreImpresora ? mFabrica.NombreImpresora() : "";
     const EstadoComandos estado = CalcularEstadoComandos(
             activa != nullptr ? std::optional(S(TagDe(activa))) : std::nullopt, impresora);
-    Habilitar(mUi->mnuArchivoImprimir, estado.imprimir && mFabrica.Imprimir);
-    Habilitar(mUi->Imprimir, estado.imprimir && mFabrica.Imprimir);
+    mUi->mnuArchivoImprimir->setEnabled(estado.imprimir && mFabrica.Imprimir);
+    mUi->Imprimir->setEnabled(estado.imprimir && mFabrica.Imprimir);
     mUi->Imprimir->setToolTip(Q(TooltipImprimir(impresora)));
-    Habilitar(mUi->mnuArchivoVistaPreliminar, estado.imprimir && mFabrica.VistaPreliminar);
-    Habilitar(mUi->Vista, estado.imprimir && mFabrica.VistaPreliminar);
+    mUi->mnuArchivoVistaPreliminar->setEnabled(estado.imprimir && mFabrica.VistaPreliminar);
+    mUi->Vista->setEnabled(estado.imprimir && mFabrica.VistaPreliminar);
     const bool guardar = estado.guardar && mFabrica.GuardarVentana;
-    Habilitar(mUi->mnuArchivoGuardar, guardar);
-    Habilitar(mUi->mnuArchivoGuardarComo, guardar);
-    Habilitar(mUi->Guardar, guardar);
-    Habilitar(mUi->mnuArchivoCerrar, estado.cerrar);
-    Habilitar(mUi->mnuArchivoCerrarTodo, estado.cerrar);
+    mUi->mnuArchivoGuardar->setEnabled(guardar);
+    mUi->mnuArchivoGuardarComo->setEnabled(guardar);
+    mUi->Guardar->setEnabled(guardar);
+    mUi->mnuArchivoCerrar->setEnabled(estado.cerrar);
+    mUi->mnuArchivoCerrarTodo->setEnabled(estado.cerrar);
     mUi->mnuArchivoOpcionesConverisonAutomatica->setChecked(mContexto.ConversionAutomatica);
     mUi->mnuArchivoOpcionesLeerEmisividadBD->setChecked(mContexto.LeerEmisividadBD);
     mUi->mnuAOPreguntar->setChecked(mContexto.PreguntarAntesDeCerrarVentana);
@@ -305,18 +301,18 @@ void mdiKelvora::ConectarAyuda() {
 }
 
 void mdiKelvora::HabilitarComandosFijos() {
-    Habilitar(mUi->mnuArchivoAbrir, static_cast<bool>(mFabrica.LeerArchivo));
-    Habilitar(mUi->Abrir, static_cast<bool>(mFabrica.LeerArchivo));
-    Habilitar(mUi->mnuArchivoConfigurarPagina, static_cast<bool>(mFabrica.ConfigurarPagina));
+    mUi->mnuArchivoAbrir->setEnabled(static_cast<bool>(mFabrica.LeerArchivo));
+    mUi->Abrir->setEnabled(static_cast<bool>(mFabrica.LeerArchivo));
+    mUi->mnuArchivoConfigurarPagina->setEnabled(static_cast<bool>(mFabrica.ConfigurarPagina));
     for (const ComandoProducto& producto : kProductos) {
-        Habilitar(findChild<QAction*>(QString::fromLatin1(producto.accion)),
-                  static_cast<bool>(mFabrica.NuevaVentanaDatos));
+        findChild<QAction*>(QString::fromLatin1(producto.accion))
+                ->setEnabled(static_cast<bool>(mFabrica.NuevaVentanaDatos));
     }
-    Habilitar(mUi->mnuConvertidorUnidades, static_cast<bool>(mFabrica.ConvertidorUnidades));
-    Habilitar(mUi->mnuConvertidorUnidadesPersonalizado,
-              static_cast<bool>(mFabrica.ConvertidorUnidadesPersonalizado));
+    mUi->mnuConvertidorUnidades->setEnabled(static_cast<bool>(mFabrica.ConvertidorUnidades));
+    mUi->mnuConvertidorUnidadesPersonalizado->setEnabled(
+            static_cast<bool>(mFabrica.ConvertidorUnidadesPersonalizado));
     for (QAction* ayuda : {mUi->mnuAyudaContenido, mUi->mnuAyudaIndice, mUi->mnuAyudaBusqueda}) {
-        Habilitar(ayuda, static_cast<bool>(mFabrica.Ayuda));
+        ayuda->setEnabled(static_cast<bool>(mFabrica.Ayuda));
     }
     ActualizarGraficar();
     ActualizarHerramientas();
@@ -356,13 +352,13 @@ void mdiKelvora::ActualizarRecientes() {
 void mdiKelvora::ActualizarGraficar() {
     QWidget* activa = VentanaActiva();
     const bool graficar = activa != nullptr && PuedeGraficar(S(TagDe(activa))) && mFabrica.Graficar;
-    Habilitar(mUi->mnuATGTSvsEspesor, graficar);
-    Habilitar(mUi->mnuATGPQvsEspesor, graficar);
+    mUi->mnuATGTSvsEspesor->setEnabled(graficar);
+    mUi->mnuATGPQvsEspesor->setEnabled(graficar);
 }
 
 void mdiKelvora::ActualizarHerramientas() {
-    Habilitar(mUi->mnuHInsertarMaterial, mContexto.BDDisponible && mFabrica.InsertarMaterial);
-    Habilitar(mUi->mnuHConsultarMaterial, mContexto.BDDisponible && mFabrica.ConsultarMateriales);
+    mUi->mnuHInsertarMaterial->setEnabled(mContexto.BDDisponible && mFabrica.InsertarMaterial);
+    mUi->mnuHConsultarMaterial->setEnabled(mContexto.BDDisponible && mFabrica.ConsultarMateriales);
 }
 
 void mdiKelvora::ActualizarListaVentanas() {
