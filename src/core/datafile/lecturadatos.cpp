@@ -6,6 +6,7 @@
 #include "core/runtime/runtimeerror.h"
 #include "core/runtime/texto.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -16,49 +17,45 @@ namespace {
 constexpr int kUnidadNoExisteParaFamilia = 1002;
 constexpr size_t kLargoPrefijoUnidad = 6;
 
-constexpr std::array<const char*, 13> kClavesNumero = {
-        "TemperaturaInterior",
-        "TemperaturaSuperficieAislamiento",
-        "TemperaturaAmbiente",
-        "TemperaturaBulboHumedo",
-        "TemperaturaPuntoRocio",
-        "HumedadRelativa",
-        "CoeficienteTransmisionCalor",
-        "VelocidadAire",
-        "DiametroTuberia",
-        "CodigoMaterialSuperficieAislamiento",
-        "EmisividadSuperficieAislamiento",
-        "CodigoMaterialSuperficieDesnuda",
-        "EmisividadSuperficieDesnuda",
+// Keys in capitals: a line's key is put in capitals once and compared with these.
+constexpr std::array<std::string_view, 13> kClavesNumero = {
+        "TEMPERATURAINTERIOR",
+        "TEMPERATURASUPERFICIEAISLAMIENTO",
+        "TEMPERATURAAMBIENTE",
+        "TEMPERATURABULBOHUMEDO",
+        "TEMPERATURAPUNTOROCIO",
+        "HUMEDADRELATIVA",
+        "COEFICIENTETRANSMISIONCALOR",
+        "VELOCIDADAIRE",
+        "DIAMETROTUBERIA",
+        "CODIGOMATERIALSUPERFICIEAISLAMIENTO",
+        "EMISIVIDADSUPERFICIEAISLAMIENTO",
+        "CODIGOMATERIALSUPERFICIEDESNUDA",
+        "EMISIVIDADSUPERFICIEDESNUDA",
 };
 
 struct ClaveUnidad {
-    const char* clave;
+    std::string_view clave;
     const char* familia;
 };
 
 constexpr std::array<ClaveUnidad, 7> kClavesUnidad = {{
-        {"UnidadTemperaturaInterior", "Temperatura"},
-        {"UnidadTemperaturaSuperficieAislamiento", "Temperatura"},
-        {"UnidadTemperaturaAmbiente", "Temperatura"},
-        {"UnidadTemperaturaBulboHumedo", "Temperatura"},
-        {"UnidadTemperaturaPuntoRocio", "Temperatura"},
-        {"UnidadVelocidadAire", "Velocidad"},
-        {"UnidadDiametroTuberia", "Longitud"},
+        {"UNIDADTEMPERATURAINTERIOR", "Temperatura"},
+        {"UNIDADTEMPERATURASUPERFICIEAISLAMIENTO", "Temperatura"},
+        {"UNIDADTEMPERATURAAMBIENTE", "Temperatura"},
+        {"UNIDADTEMPERATURABULBOHUMEDO", "Temperatura"},
+        {"UNIDADTEMPERATURAPUNTOROCIO", "Temperatura"},
+        {"UNIDADVELOCIDADAIRE", "Velocidad"},
+        {"UNIDADDIAMETROTUBERIA", "Longitud"},
 }};
 
-bool EsClaveNumero(std::string_view clave) {
-    for (const char* conocida : kClavesNumero) {
-        if (IgualTexto(clave, conocida)) {
-            return true;
-        }
-    }
-    return false;
+bool EsClaveNumero(std::string_view mayusculas) {
+    return std::find(kClavesNumero.begin(), kClavesNumero.end(), mayusculas) != kClavesNumero.end();
 }
 
-const ClaveUnidad* BuscarClaveUnidad(std::string_view clave) {
+const ClaveUnidad* BuscarClaveUnidad(std::string_view mayusculas) {
     for (const ClaveUnidad& conocida : kClavesUnidad) {
-        if (IgualTexto(clave, conocida.clave)) {
+        if (conocida.clave == mayusculas) {
             return &conocida;
         }
     }
@@ -83,11 +80,12 @@ struct Lectura {
 };
 
 void Asignar(Lectura& lectura, const std::string& clave, const std::string& valor) {
-    if (IgualTexto(clave, "Tipo")) {
+    const std::string mayusculas = UCase(clave);
+    if (mayusculas == "TIPO") {
         lectura.Tipo = CInt(Val(valor));
-    } else if (EsClaveNumero(clave)) {
+    } else if (EsClaveNumero(mayusculas)) {
         lectura.Unidades.setValueVariable(clave, Val(valor));
-    } else if (const ClaveUnidad* unidad = BuscarClaveUnidad(clave)) {
+    } else if (const ClaveUnidad* unidad = BuscarClaveUnidad(mayusculas)) {
         LeerUnidad(clave, valor, unidad->familia, lectura.Unidades);
     }
 }
