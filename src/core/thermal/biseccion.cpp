@@ -13,21 +13,33 @@ namespace {
 constexpr double kToleranciaFlujo = 0.01;
 constexpr double kToleranciaRadio = 0.001;
 
+const float kCierre = CSng(1E-10);
+
+// The loops run these on every pass: the runtime's checks are called only to raise.
+inline double Finito(double x) {
+    return std::isfinite(x) ? x : Comprobar(x);
+}
+
+inline float Simple(double x) {
+    const auto f = static_cast<float>(x);
+    return std::isinf(f) ? CSng(x) : f;
+}
+
 // Both distances to the bracket's ends, each as a 32-bit float, below 1E-10 as a 32-bit
 // float. Both are converted before the test, so an overflow in either is raised.
 bool IntervaloCerrado(double inferior, double superior, double x) {
-    const bool inferiorCerrado = CSng(std::fabs(inferior - x)) < CSng(1E-10);
-    const bool superiorCerrado = CSng(std::fabs(superior - x)) < CSng(1E-10);
+    const bool inferiorCerrado = Simple(std::fabs(inferior - x)) < kCierre;
+    const bool superiorCerrado = Simple(std::fabs(superior - x)) < kCierre;
     return inferiorCerrado && superiorCerrado;
 }
 
 double PuntoMedio(double inferior, double superior) {
-    return Comprobar(Comprobar(superior - inferior) / 2 + inferior);
+    return Finito(Finito(superior - inferior) / 2 + inferior);
 }
 
 double FlujoSuperficie(const Pelicula& pelicula, double T, double Es, double C) {
     const double radiacion = pelicula.Qrad(T, Es);
-    return Comprobar(radiacion + pelicula.Qconv(T, C));
+    return Finito(radiacion + pelicula.Qconv(T, C));
 }
 
 }  // namespace
@@ -45,7 +57,7 @@ Biseccion BiseccionSuperficie(double objetivo, double C, const Pelicula& pelicul
     for (;;) {
         const double T = PuntoMedio(inferior, superior);
         const double Q = FlujoSuperficie(pelicula, T, Es, C);
-        if (std::fabs(Comprobar(objetivo - Q)) < kToleranciaFlujo) {
+        if (std::fabs(Finito(objetivo - Q)) < kToleranciaFlujo) {
             return {true, T};
         }
         if (Q < objetivo) {
@@ -67,7 +79,7 @@ double BiseccionSuperficieFrio(double objetivo, double C, const Pelicula& pelicu
     for (;;) {
         const double T = PuntoMedio(inferior, superior);
         const double Q = FlujoSuperficie(pelicula, T, Es, C);
-        if (std::fabs(Comprobar(objetivo - Q)) < kToleranciaFlujo) {
+        if (std::fabs(Finito(objetivo - Q)) < kToleranciaFlujo) {
             return T;
         }
         if (Q > objetivo) {
@@ -85,7 +97,7 @@ double BiseccionRadio(double Eq, double r1, EventPump& bomba) {
     for (;;) {
         const double r = PuntoMedio(inferior, superior);
         const double e = EspesorEquivalente(r, r1);
-        if (std::fabs(Comprobar(e - Eq)) < kToleranciaRadio) {
+        if (std::fabs(Finito(e - Eq)) < kToleranciaRadio) {
             return r;
         }
         if (e > Eq) {
@@ -106,7 +118,7 @@ double BiseccionRadioFrio(double Eq, double r1) {
     for (;;) {
         const double r = PuntoMedio(inferior, superior);
         const double e = EspesorEquivalente(r, r1);
-        if (std::fabs(Comprobar(e - Eq)) < kToleranciaRadio) {
+        if (std::fabs(Finito(e - Eq)) < kToleranciaRadio) {
             return r;
         }
         // Eq = 0 meets the tolerance at r1 on the first pass, and checked arithmetic never
