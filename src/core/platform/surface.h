@@ -31,6 +31,8 @@ public:
                               double alto) = 0;
     virtual void SetFont(const Fuente& fuente) = 0;
     virtual void NewPage() = 0;
+    /// Width of the lines drawn from now on, in pixels of the device: 1 is the thinnest.
+    virtual void SetDrawWidth(int /*ancho*/) {}
 };
 
 }  // namespace kelvora
