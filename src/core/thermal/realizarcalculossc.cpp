@@ -181,9 +181,9 @@ void CalculoSC::Practico(Tramo& tramo) {
     const double Eqp = EspesorEquivalente(r2p, mR1);
     const BloqueCalculo& ideal = tramo.ideal;
     const double salto = Comprobar(mTI - mTA);
-    const double conduccion = Dividir(Eqp, ideal.k);
-    const double pelicula = Dividir(1, ideal.f);
-    const double q = Dividir(salto, Comprobar(conduccion + pelicula));
+    const double resistenciaAislamiento = Dividir(Eqp, ideal.k);
+    const double resistenciaPelicula = Dividir(1, ideal.f);
+    const double q = Dividir(salto, Comprobar(resistenciaAislamiento + resistenciaPelicula));
     const double C = CoeficienteTuberia(tramo.C0, mDe);
     const Biseccion biseccion = BiseccionSuperficie(q, C, *mPelicula, mEs, mTS, mVentana.Bomba());
     if (biseccion.convergio) {

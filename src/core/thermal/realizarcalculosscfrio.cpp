@@ -106,9 +106,9 @@ bool CalculoSCFrio::Calcular(TramoFrio& tramo, double T) {
     const double r2p = Comprobar(Comprobar(seccion->diametro - mDint) / 2 + mR1);
     const double Eqp = EspesorEquivalente(r2p, mR1);
     const double salto = Comprobar(mTA - mTI);
-    const double conduccion = Dividir(Eqp, mK);
-    const double pelicula = Dividir(1, tramo.ideal.f);
-    const double q = Dividir(salto, Comprobar(conduccion + pelicula));
+    const double resistenciaAislamiento = Dividir(Eqp, mK);
+    const double resistenciaPelicula = Dividir(1, tramo.ideal.f);
+    const double q = Dividir(salto, Comprobar(resistenciaAislamiento + resistenciaPelicula));
     const double Tp = BiseccionSuperficieFrio(q, C, *mPelicula, mEs, mTI, mVentana.Bomba());
     BloqueCalculo& b = tramo.practico;
     b.E = seccion->espesor;

@@ -2,6 +2,8 @@
 
 #include "core/runtime/aritmetica.h"
 
+#include <optional>
+
 namespace kelvora {
 
 double EspesorEquivalente(double r2, double r1) {

@@ -2,8 +2,6 @@
 
 #include "core/materials/tubos.h"
 
-#include <optional>
-
 namespace kelvora {
 
 /// π of the hot pipe calculation, 4 · arctangent(1), and the literal of the cold one.
