@@ -386,6 +386,26 @@ def imprimir(nombre, res, extra):
         print('    {%d, {%s}},' % (b, ', '.join('%.17g' % x for x in fila)))
 
 
+def sp_grafica_sin_espesor(tipo, TI, TS, TA, Es):
+    """Chart mode of a case whose least ideal thickness rounds to 0: the target flux of every
+    practical step fails and stays 0, and f' fails for E = 0."""
+    bomba = [0]
+    ok, T = bis_sup(0, 0.7383, Es, TS, TA, 1.0, bomba)
+    return ok, T, qrad(T, Es, TA) + qconv0(T, 0.7383, TA)
+
+
+def extra():
+    try:
+        sp(1, 150, 148, 80, 0, 0.9, 0.9, 7)
+    except ZeroDivisionError as error:
+        print('// SP 150 148 80 V0:', error)
+    print('// chart vertical Qt', sp_grafica_sin_espesor(1, 150, 148, 80, 0.9))
+    r, n, p = sc(9, 300, 10, -100, 0, 3, 2, 0.05)
+    imprimir('SC 9 300 10 -100 V0 Es0.05 nominal 3', r, (n, p))
+    r, n, p = scfrio(-20, 56, 95, 2, 8, 6, 0.9, 3)
+    print('// SCFrio k8: no section up to Tres', r is None)
+
+
 if __name__ == '__main__':
     print('qrad(400,0.9,TA=80)', repr(qrad(400, 0.9, 80)))
     print('qconv0(400,0.941,80)', repr(qconv0(400, 0.941, 80)))
@@ -409,29 +429,4 @@ if __name__ == '__main__':
     imprimir('SPFrio 0 51 90 V4 k0.15', r, n)
     r, n, p = scfrio(-20, 56, 95, 2, 0.16, 6, 0.9, 3)
     imprimir('SCFrio -20 56 95 V2 k0.16 nominal 3', r, (n, p))
-
-
-def sp_grafica_sin_espesor(tipo, TI, TS, TA, Es):
-    """Chart mode of a case whose least ideal thickness rounds to 0: the target flux of every
-    practical step fails and stays 0, and f' fails for E = 0."""
-    bomba = [0]
-    ok, T = bis_sup(0, 0.7383, Es, TS, TA, 1.0, bomba)
-    return ok, T, qrad(T, Es, TA) + qconv0(T, 0.7383, TA)
-
-
-def extra():
-    try:
-        sp(1, 150, 148, 80, 0, 0.9, 0.9, 7)
-    except ZeroDivisionError as error:
-        print('// SP 150 148 80 V0:', error)
-    print('// chart vertical Qt', sp_grafica_sin_espesor(1, 150, 148, 80, 0.9))
-    r, n, p = sc(9, 300, 10, -100, 0, 3, 2, 0.05)
-    imprimir('SC 9 300 10 -100 V0 Es0.05 nominal 3', r, (n, p))
-    r, n, p = scfrio(-20, 56, 95, 2, 0.9, 6, 0.9, 3)
-    print('// SCFrio k0.9', r is None, n)
-    r, n, p = scfrio(-20, 56, 95, 2, 0.35, 6, 0.9, 3)
-    print('// SCFrio k0.35', r is None, n)
-
-
-if __name__ == '__main__':
     extra()
