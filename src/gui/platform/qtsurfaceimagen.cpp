@@ -1,0 +1,161 @@
+#include "gui/platform/qtsurfaceimagen.h"
+
+#include "core/app/colores.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace kelvora {
+
+namespace {
+
+constexpr double kMmPorPunto = 25.4 / 72.0;
+
+// Fonts and painting need a Qt application; without a display it runs on the offscreen
+// platform.
+void AsegurarAplicacion() {
+    if (QGuiApplication::instance() != nullptr) {
+        return;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    static int argc = 1;
+    static char nombre[] = "kelvora";
+    static char* argv[] = {nombre, nullptr};
+    static const auto aplicacion = std::make_unique<QGuiApplication>(argc, argv);
+}
+
+QString Texto(const std::string& texto) {
+    return QString::fromStdString(texto);
+}
+
+QColor ColorDe(unsigned color) {
+    return {Rojo(color), Verde(color), Azul(color)};
+}
+
+QFont FuenteQt(const Fuente& fuente, double pixelesPorMm) {
+    QFont qfuente(Texto(fuente.nombre));
+    qfuente.setStyleHint(QFont::TypeWriter);
+    qfuente.setPixelSize(
+            std::max(1, static_cast<int>(std::lround(fuente.tamano * kMmPorPunto * pixelesPorMm))));
+    qfuente.setBold(fuente.negrita);
+    qfuente.setItalic(fuente.cursiva);
+    return qfuente;
+}
+
+}  // namespace
+
+QtSurfaceImagen::QtSurfaceImagen(double anchoMm, double altoMm, double pixelesPorMm)
+    : mAnchoMm(anchoMm), mAltoMm(altoMm), mPixelesPorMm(pixelesPorMm) {
+    AsegurarAplicacion();
+}
+
+double QtSurfaceImagen::TextWidth(const std::string& texto) const {
+    return QFontMetricsF(FuenteQt(mFuente, mPixelesPorMm)).horizontalAdvance(Texto(texto)) /
+           mPixelesPorMm;
+}
+
+double QtSurfaceImagen::TextHeight(const std::string&) const {
+    return QFontMetricsF(FuenteQt(mFuente, mPixelesPorMm)).height() / mPixelesPorMm;
+}
+
+void QtSurfaceImagen::Print(const std::string& texto, bool finDeLinea) {
+    const QFont fuente = FuenteQt(mFuente, mPixelesPorMm);
+    const QPointF base(Pixeles(mX), Pixeles(mY) + QFontMetricsF(fuente).ascent());
+    const QString qtexto = Texto(texto);
+    mTrazos.emplace_back([fuente, base, qtexto](QPainter& pintor) {
+        pintor.setFont(fuente);
+        pintor.setPen(Qt::black);
+        pintor.drawText(base, qtexto);
+    });
+    if (finDeLinea) {
+        mX = 0;
+        mY += TextHeight(texto);
+    } else {
+        mX += TextWidth(texto);
+    }
+}
+
+void QtSurfaceImagen::Line(double x1, double y1, double x2, double y2, unsigned color) {
+    QPen pluma(ColorDe(color));
+    pluma.setWidth(mAnchoLinea);
+    pluma.setCapStyle(Qt::RoundCap);
+    const QLineF linea(Pixeles(x1), Pixeles(y1), Pixeles(x2), Pixeles(y2));
+    mTrazos.emplace_back([pluma, linea](QPainter& pintor) {
+        pintor.setPen(pluma);
+        pintor.drawLine(linea);
+    });
+}
+
+void QtSurfaceImagen::PaintPicture(const std::string& imagen, double x, double y, double ancho,
+                                   double alto) {
+    const QImage dibujo(Texto(imagen));
+    const QRectF destino(Pixeles(x), Pixeles(y), Pixeles(ancho), Pixeles(alto));
+    mTrazos.emplace_back(
+            [dibujo, destino](QPainter& pintor) { pintor.drawImage(destino, dibujo); });
+}
+
+void QtSurfaceImagen::SetFont(const Fuente& fuente) {
+    mFuente = fuente;
+}
+
+void QtSurfaceImagen::NewPage() {
+    mTrazos.clear();
+    mX = 0;
+    mY = 0;
+}
+
+void QtSurfaceImagen::Reproducir(QPainter& pintor) const {
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.setRenderHint(QPainter::TextAntialiasing);
+    pintor.fillRect(QRectF(0, 0, Pixeles(mAnchoMm), Pixeles(mAltoMm)), Qt::white);
+    for (const auto& trazo : mTrazos) {
+        trazo(pintor);
+    }
+}
+
+bool QtSurfaceImagen::GuardarPng(const std::string& archivo) const {
+    QImage imagen(static_cast<int>(std::lround(Pixeles(mAnchoMm))),
+                  static_cast<int>(std::lround(Pixeles(mAltoMm))), QImage::Format_ARGB32);
+    {
+        QPainter pintor(&imagen);
+        Reproducir(pintor);
+    }
+    QSaveFile salida(Texto(archivo));
+    return salida.open(QIODevice::WriteOnly) && imagen.save(&salida, "PNG") && salida.commit();
+}
+
+bool QtSurfaceImagen::GuardarSvg(const std::string& archivo) const {
+    QSaveFile salida(Texto(archivo));
+    if (!salida.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    QSvgGenerator generador;
+    generador.setOutputDevice(&salida);
+    const QSize tamano(static_cast<int>(std::lround(Pixeles(mAnchoMm))),
+                       static_cast<int>(std::lround(Pixeles(mAltoMm))));
+    generador.setSize(tamano);
+    generador.setViewBox(QRect(QPoint(0, 0), tamano));
+    generador.setTitle("Kelvora");
+    {
+        QPainter pintor;
+        if (!pintor.begin(&generador)) {
+            return false;
+        }
+        Reproducir(pintor);
+    }
+    return salida.commit();
+}
+
+}  // namespace kelvora
