@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kSufijoTemporal = ".~tmp";
+constexpr const char* kSufijoTemporal = ".~kelvora";
 
 RuntimeError ErrorArchivoNoEncontrado() {
     return {53, "No se encontró el archivo"};
