@@ -1,5 +1,6 @@
 #include "cli/comandos.h"
 
+#include "cli/calcular.h"
 #include "cli/convertir.h"
 #include "cli/materiales.h"
 
@@ -31,6 +32,7 @@ const std::vector<Comando>& Comandos() {
             {"unidades", "unidades [FAMILIA]", ComandoUnidades},
             {"materiales", "materiales", ComandoMateriales},
             {"tubo", "tubo NOMINAL", ComandoTubo},
+            {"calcular", "calcular ARCHIVO.adk... [--json] [--sin-bd]", ComandoCalcular},
     };
     return comandos;
 }

@@ -45,7 +45,7 @@ std::string ListaUnidades::Text() const {
 }
 
 ModeloEntrada::ModeloEntrada(const DescripcionEntrada& ventana, EntornoEntrada entorno)
-    : mVentana(ventana), mEntorno(std::move(entorno)) {
+    : mVentana(ventana), mEntorno(std::move(entorno)), mCaption(ventana.caption) {
     CrearControles();
     LimpiarDatos();
     for (int i = 1; i <= mVentana.Cajas(); ++i) {

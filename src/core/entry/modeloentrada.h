@@ -75,6 +75,9 @@ public:
 
     const DescripcionEntrada& Ventana() const { return mVentana; }
     EntornoEntrada& Entorno() { return mEntorno; }
+    /// The window's caption: its design caption until the main window numbers it.
+    const std::string& Caption() const { return mCaption; }
+    void SetCaption(std::string caption) { mCaption = std::move(caption); }
 
     const std::string& NombreMaterialAislamiento() const { return mNombreMaterialAislamiento; }
     const std::string& NombreMaterialDesnuda() const { return mNombreMaterialDesnuda; }
@@ -153,6 +156,7 @@ private:
 
     const DescripcionEntrada& mVentana;
     EntornoEntrada mEntorno;
+    std::string mCaption;
     std::string mNombreMaterialAislamiento;
     std::string mNombreMaterialDesnuda;
     std::string mFileName;

@@ -1,0 +1,15 @@
+# Runs kelvora-cli calcular --json on one file: exit 0 and one JSON object whose results stand.
+execute_process(COMMAND ${CLI} calcular --json ${ARCHIVO}
+        RESULT_VARIABLE salida OUTPUT_VARIABLE json ERROR_VARIABLE errores)
+if(NOT salida EQUAL 0)
+    message(FATAL_ERROR "kelvora-cli terminó con ${salida}: ${errores}\n${json}")
+endif()
+string(JSON ok ERROR_VARIABLE error GET "${json}" ok)
+if(error)
+    message(FATAL_ERROR "La salida no es un objeto JSON: ${error}\n${json}")
+endif()
+string(JSON filas LENGTH "${json}" tabla)
+string(JSON ranuras LENGTH "${json}" resultados)
+if(NOT ok OR filas LESS 70 OR ranuras LESS 68)
+    message(FATAL_ERROR "Sin resultados (ok ${ok}, ${filas} filas, ${ranuras} ranuras)\n${json}")
+endif()
