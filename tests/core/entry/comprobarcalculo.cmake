@@ -1,8 +1,16 @@
-# Runs kelvora-cli calcular --json on one file: exit 0 and one JSON object whose results stand.
+# Runs kelvora-cli calcular --json on one file and checks the exit status (ESPERADO, 0 unless
+# given) and, but for a usage error (2), that the output is one JSON object; with 0, that its
+# results stand.
+if(NOT DEFINED ESPERADO)
+    set(ESPERADO 0)
+endif()
 execute_process(COMMAND ${CLI} calcular --json ${ARCHIVO}
         RESULT_VARIABLE salida OUTPUT_VARIABLE json ERROR_VARIABLE errores)
-if(NOT salida EQUAL 0)
+if(NOT salida EQUAL ESPERADO)
     message(FATAL_ERROR "kelvora-cli terminó con ${salida}: ${errores}\n${json}")
+endif()
+if(ESPERADO EQUAL 2)
+    return()
 endif()
 string(JSON ok ERROR_VARIABLE error GET "${json}" ok)
 if(error)
@@ -10,6 +18,10 @@ if(error)
 endif()
 string(JSON filas LENGTH "${json}" tabla)
 string(JSON ranuras LENGTH "${json}" resultados)
-if(NOT ok OR filas LESS 70 OR ranuras LESS 68)
+string(JSON mensajes LENGTH "${json}" mensajes)
+if(ESPERADO EQUAL 0 AND (NOT ok OR filas LESS 70 OR ranuras LESS 68))
     message(FATAL_ERROR "Sin resultados (ok ${ok}, ${filas} filas, ${ranuras} ranuras)\n${json}")
+endif()
+if(NOT ESPERADO EQUAL 0 AND (ok OR mensajes EQUAL 0 OR NOT filas EQUAL 0))
+    message(FATAL_ERROR "Un archivo que no se abre no da resultados ni calla\n${json}")
 endif()

@@ -141,36 +141,6 @@ TEST(EstadoDatos, CambioDeUnidad) {
     EXPECT_EQ(b.ventana->Texto(5), "5.08");
 }
 
-TEST(EstadoDatos, ListasDeUnaVentanaNueva) {
-    struct Caso {
-        TipoEntrada tipo;
-        int lista;
-        const char* unidad;
-        size_t entradas;
-        const char* toolTip;
-    };
-    // clang-format off
-    const Caso casos[] = {
-        {TipoEntrada::SuperficiesPlanas,      1, "°F",   4, "Unidades de Temperatura"},
-        {TipoEntrada::SuperficiesPlanas,      4, "mi/h", 4, "Unidades de Velocidad"},
-        {TipoEntrada::SuperficiesCilindricas, 5, "plg",  8, "Unidades de Longitud"},
-        {TipoEntrada::PlanasFrio,             4, "°F",   4, "Unidades de Temperatura"},
-        {TipoEntrada::PlanasFrio,             7, "mi/h", 4, "Unidades de Velocidad"},
-        {TipoEntrada::CilindricasFrio,        8, "plg",  8, "Unidades de Longitud"},
-    };
-    // clang-format on
-    for (const Caso& c : casos) {
-        Banco b(c.tipo);
-        EXPECT_EQ(b.ventana->Lista(c.lista).Text(), c.unidad);
-        EXPECT_EQ(b.ventana->Lista(c.lista).Tag, c.unidad);
-        EXPECT_EQ(b.ventana->Lista(c.lista).entradas.size(), c.entradas);
-        EXPECT_STREQ(ToolTipLista(b.ventana->Ventana().Campo(c.lista).lista), c.toolTip);
-    }
-    Banco frio(TipoEntrada::PlanasFrio);
-    EXPECT_FALSE(frio.ventana->TieneLista(5));
-    EXPECT_FALSE(frio.ventana->TieneLista(6));
-}
-
 // Enter moves on through the tab order; the code boxes skip their query button.
 TEST(Foco, EnterTabulacionYAyuda) {
     struct Caso {
