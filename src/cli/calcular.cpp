@@ -2,6 +2,7 @@
 
 #include "cli/json.h"
 #include "cli/prompterconsola.h"
+#include "core/app/numeroventanalibre.h"
 #include "core/datafile/leerarchivo.h"
 #include "core/datafile/listadogrilla.h"
 #include "core/entry/llamadacalculo.h"
@@ -116,6 +117,12 @@ private:
     std::unique_ptr<ModeloResultados> mVentana;
 };
 
+// A window's caption as the program numbers it: here it is the only window of its kind.
+std::string CaptionNumerado(const std::string& caption) {
+    const std::string base = Trim(caption) + " [";
+    return base + std::to_string(NumeroVentanaLibre(base, {base})) + "]";
+}
+
 const char* NombreAnalisis(Analisis analisis) {
     switch (analisis) {
         case Analisis::SP:
@@ -177,7 +184,7 @@ VentanaArchivo* CalculoArchivo::CrearVentana(int16_t Tipo) {
     mModelo = std::make_unique<ModeloEntrada>(
             *descripcion, EntornoEntrada{mPrompter, mContexto, *mMateriales, mBomba, {}, {}});
     mModelo->SetTipoAnalisis(Tipo);
-    mModelo->SetCaption(Trim(descripcion->caption) + " [1]");
+    mModelo->SetCaption(CaptionNumerado(descripcion->caption));
     mModelo->SetLblProducto(NombreProducto(Tipo, false));
     mModelo->Activar();
     mVentana = std::make_unique<VentanaDatosArchivo>(*mModelo);
@@ -270,7 +277,7 @@ std::string CalculoArchivo::Listado() const {
         return "";
     }
     Grilla grilla = resultados->MSFG();
-    grilla.Caption = std::string(resultados->Ventana().caption) + " [1]";
+    grilla.Caption = CaptionNumerado(resultados->Ventana().caption);
     return ListadoGrilla(grilla, NumeroTag(resultados->Ventana().tag));
 }
 
