@@ -9,8 +9,6 @@
 #include "core/runtime/runtimeerror.h"
 #include "core/runtime/texto.h"
 #include "core/thermal/productos.h"
-#include "core/thermal/realizarcalculossc.h"
-#include "core/thermal/realizarcalculossp.h"
 
 #include <string_view>
 #include <utility>
@@ -147,16 +145,8 @@ bool ModeloGraficas::Barrido(SerieGrafica& serie) {
     }
     serie.X.assign(static_cast<size_t>(serie.N) + 1, 0.0);
     serie.Y.assign(serie.X.size(), 0.0);
-    mV = Valor<double>(llamada, "VelocidadAire");
+    Preparar(llamada);
     double TS = Valor<double>(llamada, "TemperaturaSuperficieAislamiento");
-    const bool tuberia = EsTuberia(mTipoAnalisis);
-    if (tuberia) {
-        mD = Valor<double>(llamada, "DiametroTuberia");
-    }
-    mResultados.emplace(
-            tuberia ? TipoResultados::SuperficiesCilindricas : TipoResultados::SuperficiesPlanas,
-            mUnidades, mPrompter, mBomba);
-    mResultados->SetTipoAnalisis(mTipoAnalisis);
     for (int i = 0; i <= serie.N; ++i) {
         if (!mBomba.DoEvents() || !Punto(serie, i, TS)) {
             return false;
@@ -166,65 +156,100 @@ bool ModeloGraficas::Barrido(SerieGrafica& serie) {
     return true;
 }
 
-bool ModeloGraficas::Punto(SerieGrafica& serie, int i, double TS) {
-    if (mVentana == nullptr) {
-        return false;
+// TI, TA, V and the diameter are converted once per series.
+void ModeloGraficas::Preparar(const LlamadaCalculo& llamada) {
+    mTuberia = EsTuberia(mTipoAnalisis);
+    mSP = ArgumentosSP{};
+    mSC = ArgumentosSC{};
+    mSP.TemperaturaInterior = mSC.TemperaturaInterior = mTI;
+    mSP.TemperaturaAmbiente = mSC.TemperaturaAmbiente = mTA;
+    mSP.VelocidadAire = mSC.VelocidadAire = Valor<double>(llamada, "VelocidadAire");
+    mSP.modoGrafica = mSC.modoGrafica = true;
+    mSP.tipoGrafica = mSC.tipoGrafica = mTipoGrafica;
+    if (mTuberia) {
+        mSC.DiametroTuberia = Valor<double>(llamada, "DiametroTuberia");
     }
-    return EsTuberia(mTipoAnalisis) ? PuntoTuberia(serie, i, TS) : PuntoPlano(serie, i, TS);
-}
-
-// Emissivities, codes and names are read from the window anew at each point.
-bool ModeloGraficas::PuntoPlano(SerieGrafica& serie, int i, double TS) {
-    const LlamadaCalculo llamada = PrepararLlamada(*mVentana);
-    const auto p = static_cast<size_t>(i);
-    ArgumentosSP a;
-    a.TemperaturaInterior = mTI;
-    a.TemperaturaSuperficieAislamiento = TS;
-    a.TemperaturaAmbiente = mTA;
-    a.unidades = Valor<NombresUnidades>(llamada, "unidades");
-    a.VelocidadAire = mV;
-    a.EmisividadSuperficieAislamiento = Valor<double>(llamada, "EmisividadSuperficieAislamiento");
-    a.EmisividadSuperficieDesnuda = Valor<double>(llamada, "EmisividadSuperficieDesnuda");
-    a.CodigoMaterialSuperficieAislamiento =
-            Valor<int16_t>(llamada, "CodigoMaterialSuperficieAislamiento");
-    a.CodigoMaterialSuperficieDesnuda = Valor<int16_t>(llamada, "CodigoMaterialSuperficieDesnuda");
-    a.NombreMaterialAislamiento = Valor<std::string>(llamada, "NombreMaterialAislamiento");
-    a.NombreMaterialDesnuda = Valor<std::string>(llamada, "NombreMaterialDesnuda");
-    a.modoGrafica = true;
-    a.tipoGrafica = mTipoGrafica;
-    a.espesorGrafica = serie.X[p];
-    a.valorGrafica = serie.Y[p];
-    const bool bien = RealizarCalculosSP(*mResultados, a);
-    serie.X[p] = a.espesorGrafica;
-    serie.Y[p] = a.valorGrafica;
-    return bien;
+    mResultados.emplace(
+            mTuberia ? TipoResultados::SuperficiesCilindricas : TipoResultados::SuperficiesPlanas,
+            mUnidades, mPrompter, mBomba);
+    mResultados->SetTipoAnalisis(mTipoAnalisis);
+    mLeida = false;
 }
 
 // The routine cuts a nominal diameter of 14 or more to its integer part, for the rest of the
 // series too.
-bool ModeloGraficas::PuntoTuberia(SerieGrafica& serie, int i, double TS) {
-    const LlamadaCalculo llamada = PrepararLlamada(*mVentana);
+bool ModeloGraficas::Punto(SerieGrafica& serie, int i, double TS) {
+    if (mVentana == nullptr) {
+        return false;
+    }
+    LeerVentana();
     const auto p = static_cast<size_t>(i);
-    ArgumentosSC a;
-    a.TemperaturaInterior = mTI;
-    a.TemperaturaSuperficieAislamiento = TS;
-    a.TemperaturaAmbiente = mTA;
-    a.unidades = Valor<NombresUnidades>(llamada, "unidades");
-    a.VelocidadAire = mV;
-    a.DiametroTuberia = mD;
-    a.CodigoMaterialSuperficieAislamiento =
-            Valor<int16_t>(llamada, "CodigoMaterialSuperficieAislamiento");
-    a.EmisividadSuperficieAislamiento = Valor<double>(llamada, "EmisividadSuperficieAislamiento");
-    a.NombreMaterialAislamiento = Valor<std::string>(llamada, "NombreMaterialAislamiento");
-    a.modoGrafica = true;
-    a.tipoGrafica = mTipoGrafica;
-    a.espesorGrafica = serie.X[p];
-    a.valorGrafica = serie.Y[p];
-    const bool bien = RealizarCalculosSC(*mResultados, a, mTubos);
-    mD = a.DiametroTuberia;
-    serie.X[p] = a.espesorGrafica;
-    serie.Y[p] = a.valorGrafica;
+    bool bien = false;
+    if (mTuberia) {
+        mSC.TemperaturaSuperficieAislamiento = TS;
+        mSC.espesorGrafica = serie.X[p];
+        mSC.valorGrafica = serie.Y[p];
+        bien = RealizarCalculosSC(*mResultados, mSC, mTubos);
+        serie.X[p] = mSC.espesorGrafica;
+        serie.Y[p] = mSC.valorGrafica;
+    } else {
+        mSP.TemperaturaSuperficieAislamiento = TS;
+        mSP.espesorGrafica = serie.X[p];
+        mSP.valorGrafica = serie.Y[p];
+        bien = RealizarCalculosSP(*mResultados, mSP);
+        serie.X[p] = mSP.espesorGrafica;
+        serie.Y[p] = mSP.valorGrafica;
+    }
     return bien;
+}
+
+// Emissivities, codes and names are read from the window at each point: anew when a box, a
+// list or a material name has changed since they were last read.
+void ModeloGraficas::LeerVentana() {
+    if (mLeida && !VentanaCambio()) {
+        return;
+    }
+    const LlamadaCalculo llamada = PrepararLlamada(*mVentana);
+    mSP.unidades = mSC.unidades = Valor<NombresUnidades>(llamada, "unidades");
+    mSP.EmisividadSuperficieAislamiento = mSC.EmisividadSuperficieAislamiento =
+            Valor<double>(llamada, "EmisividadSuperficieAislamiento");
+    mSP.CodigoMaterialSuperficieAislamiento = mSC.CodigoMaterialSuperficieAislamiento =
+            Valor<int16_t>(llamada, "CodigoMaterialSuperficieAislamiento");
+    mSP.NombreMaterialAislamiento = mSC.NombreMaterialAislamiento =
+            Valor<std::string>(llamada, "NombreMaterialAislamiento");
+    if (!mTuberia) {
+        mSP.EmisividadSuperficieDesnuda = Valor<double>(llamada, "EmisividadSuperficieDesnuda");
+        mSP.CodigoMaterialSuperficieDesnuda =
+                Valor<int16_t>(llamada, "CodigoMaterialSuperficieDesnuda");
+        mSP.NombreMaterialDesnuda = Valor<std::string>(llamada, "NombreMaterialDesnuda");
+    }
+    RecordarVentana();
+}
+
+bool ModeloGraficas::VentanaCambio() const {
+    const ModeloEntrada& v = *mVentana;
+    for (int i = 1; i <= v.Ventana().Cajas(); ++i) {
+        const auto k = static_cast<size_t>(i - 1);
+        const int lista = v.TieneLista(i) ? v.Lista(i).ListIndex : -1;
+        if (v.Texto(i) != mTextosLeidos[k] || lista != mListasLeidas[k]) {
+            return true;
+        }
+    }
+    return v.NombreMaterialAislamiento() != mNombreAislamiento ||
+           v.NombreMaterialDesnuda() != mNombreDesnuda;
+}
+
+void ModeloGraficas::RecordarVentana() {
+    const ModeloEntrada& v = *mVentana;
+    mTextosLeidos.clear();
+    mListasLeidas.clear();
+    for (int i = 1; i <= v.Ventana().Cajas(); ++i) {
+        mTextosLeidos.push_back(v.Texto(i));
+        mListasLeidas.push_back(v.TieneLista(i) ? v.Lista(i).ListIndex : -1);
+    }
+    mNombreAislamiento = v.NombreMaterialAislamiento();
+    mNombreDesnuda = v.NombreMaterialDesnuda();
+    mLeida = true;
 }
 
 void ModeloGraficas::LlenarTabla() {

@@ -4,10 +4,13 @@
 #include "core/charts/serie.h"
 #include "core/reports/grilla.h"
 #include "core/thermal/modeloresultados.h"
+#include "core/thermal/realizarcalculossc.h"
+#include "core/thermal/realizarcalculossp.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kelvora {
 
@@ -15,6 +18,7 @@ class classUnidades;
 class EventPump;
 class FuenteTubos;
 class ModeloEntrada;
+struct LlamadaCalculo;
 class Prompter;
 class Surface;
 
@@ -65,16 +69,18 @@ public:
     const Grilla& MSFG() const { return mMSFG; }
     const std::string& Caption() const { return mCaption; }
     const std::string& Tag() const { return mTag; }
-    /// TI, TA, V (and D for pipes) in °F, mi/h and plg, as read for the last series.
+    /// TI and TA in °F, as read for the last series.
     double TI() const { return mTI; }
     double TA() const { return mTA; }
 
 private:
     void Etiquetas();
     bool Barrido(SerieGrafica& serie);
+    void Preparar(const LlamadaCalculo& llamada);
     bool Punto(SerieGrafica& serie, int i, double TS);
-    bool PuntoPlano(SerieGrafica& serie, int i, double TS);
-    bool PuntoTuberia(SerieGrafica& serie, int i, double TS);
+    void LeerVentana();
+    bool VentanaCambio() const;
+    void RecordarVentana();
     void LlenarTabla();
     void Avisar(const std::string& texto);
 
@@ -99,8 +105,15 @@ private:
     std::string mTag = "15";
     double mTI = 0;
     double mTA = 0;
-    double mV = 0;
-    double mD = 0;
+    bool mTuberia = false;
+    ArgumentosSP mSP;
+    ArgumentosSC mSC;
+    /// What the window showed when its values were last read.
+    bool mLeida = false;
+    std::vector<std::string> mTextosLeidos;
+    std::vector<int> mListasLeidas;
+    std::string mNombreAislamiento;
+    std::string mNombreDesnuda;
 };
 
 }  // namespace kelvora

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -44,12 +45,17 @@ public:
             reentro = grafica->Graficar(superficie, 100, 100);
             lectura = grafica->picGrafica_MouseMove(0, 0);
         }
+        if (llamadas == cambiarEn) {
+            cambio();
+        }
         return cerrarEn < 0 || llamadas < cerrarEn;
     }
 
     int llamadas = 0;
     int reentrarEn = -1;
     int cerrarEn = -1;
+    int cambiarEn = -1;
+    std::function<void()> cambio;
     ModeloGraficas* grafica = nullptr;
     bool reentro = true;
     LecturaRaton lectura;
@@ -146,6 +152,32 @@ TEST(ModeloGraficas, ReentradaYRatonDuranteLaSerie) {
     EXPECT_EQ(p.bomba.lectura.panel, p.grafica.Caption());
     EXPECT_FALSE(superficie.llamadas.empty());
     EXPECT_FALSE(p.grafica.Ocupado());
+}
+
+// An emissivity typed while the series runs counts from the next point on: the series follows
+// the one of the old value up to some point and the one of the new value from there.
+TEST(ModeloGraficas, CambioDeLaVentanaDuranteLaSerie) {
+    const auto serieCon = [](const char* emisividad, int cambiarEn) {
+        Proyecto p(TipoEntrada::SuperficiesPlanas, 1, kPlana);
+        p.grafica.setTipoGrafica(kGraficaCalor, p.ventana, 1);
+        p.ventana.SetTexto(6, emisividad);
+        p.bomba.cambiarEn = cambiarEn;
+        p.bomba.cambio = [&p] { p.ventana.SetTexto(6, "0.5"); };
+        EXPECT_TRUE(p.grafica.CalcularSerie());
+        return p.grafica.Serie().Y;
+    };
+    const std::vector<double> antes = serieCon("0.9", -1);
+    const std::vector<double> despues = serieCon("0.5", -1);
+    const std::vector<double> mixta = serieCon("0.9", 200);
+    size_t j = 0;
+    while (j < mixta.size() && mixta[j] == antes[j]) {
+        ++j;
+    }
+    ASSERT_GT(j, 0U);
+    ASSERT_LT(j, mixta.size());
+    for (size_t i = j; i < mixta.size(); ++i) {
+        EXPECT_EQ(mixta[i], despues[i]) << i;
+    }
 }
 
 // A run that stops (window closed, or the pipe routine's False) draws nothing and keeps the
