@@ -144,6 +144,11 @@ public:
 
     /// True when the results stand.
     bool Ejecutar();
+    /// True when a window took the file and its data are complete.
+    bool Abrir();
+    /// "C&alcular": true when the results stand.
+    bool Calcular();
+    ArchivoAbierto Abierto();
     std::string Json() const;
     std::string Listado() const;
 
@@ -192,6 +197,10 @@ VentanaArchivo* CalculoArchivo::CrearVentana(int16_t Tipo) {
 }
 
 bool CalculoArchivo::Ejecutar() {
+    return Abrir() && Calcular();
+}
+
+bool CalculoArchivo::Abrir() {
     EntornoArchivos entorno{mContexto, mPrompter, mAjustes};
     const bool leido = LeerArchivo(
             mArchivo, entorno, [this](VentanaEntrada, int16_t Tipo) { return CrearVentana(Tipo); });
@@ -203,8 +212,16 @@ bool CalculoArchivo::Ejecutar() {
         std::cerr << mArchivo << ": los datos están incompletos y no se pueden calcular.\n";
         return false;
     }
+    return true;
+}
+
+bool CalculoArchivo::Calcular() {
     mBien = mModelo->cmdAceptar_Click(*mDestino);
     return mBien;
+}
+
+ArchivoAbierto CalculoArchivo::Abierto() {
+    return {mContexto, mPrompter, mBomba, *mTubos, *mModelo, mBien ? mDestino->Ventana() : nullptr};
 }
 
 void EscribirValor(EscritorJson& json, const ValorPublico& valor) {
@@ -298,6 +315,18 @@ int ComandoCalcular(const Argumentos& argumentos) {
         std::cout << (opciones->json ? calculo.Json() + '\n' : calculo.Listado()) << std::flush;
     }
     return salida;
+}
+
+int ConArchivo(const std::string& archivo, bool sinBD, bool calcular,
+               const std::function<int(ArchivoAbierto&)>& usar) {
+    OpcionesCalcular opciones;
+    opciones.sinBD = sinBD;
+    CalculoArchivo calculo(archivo, opciones);
+    if (!calculo.Abrir() || (calcular && !calculo.Calcular())) {
+        return kSalidaDetenido;
+    }
+    ArchivoAbierto abierto = calculo.Abierto();
+    return usar(abierto);
 }
 
 }  // namespace kelvora::cli
