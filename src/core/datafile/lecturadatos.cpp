@@ -17,7 +17,8 @@ namespace {
 constexpr int kUnidadNoExisteParaFamilia = 1002;
 constexpr size_t kLargoPrefijoUnidad = 6;
 
-// Keys in capitals: a line's key is put in capitals once and compared with these.
+// Keys in capitals: a line's key is put in capitals once and compared with these. Every number
+// key that the writer puts out is read back, the two codes included.
 constexpr std::array<std::string_view, 13> kClavesNumero = {
         "TEMPERATURAINTERIOR",
         "TEMPERATURASUPERFICIEAISLAMIENTO",

@@ -12,6 +12,7 @@ namespace kelvora {
 namespace {
 
 constexpr const char* kFinDeLinea = "\r\n";
+// The same margin as the printed report's columns.
 constexpr int16_t kBlancosColumna = 2;
 constexpr int32_t kAlineacionIzquierda = 2;
 constexpr int kSubindiceFueraDeIntervalo = 9;

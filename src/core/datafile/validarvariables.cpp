@@ -41,6 +41,7 @@ void Comprobacion::UnidadTemperatura(const char* variable, const std::string& no
                                      bool ceroValido) {
     const std::string unidad = mUnidades.getUnitVariable(variable);
     if (unidad.empty()) {
+        // For a missing temperature this adds it as 0 °F, as the two warnings say.
         Aviso("* La Unidad para la " + nombre + ". Se asumió °F (" + mUnidades.getNameUnit("°F") +
               ").");
         mUnidades.setUnitVariable(variable, "°F");
@@ -152,6 +153,7 @@ void ComprobarFrio(Comprobacion& c, int16_t Tipo) {
     }
 }
 
+// Every box of the checks, the warnings' one included, bears the application's title.
 Respuesta Mostrar(Prompter& prompter, std::string texto, Botones botones, Icono icono,
                   int contextoAyuda = 0) {
     Mensaje mensaje;
