@@ -4,6 +4,9 @@
 #include "core/platform/prompter.h"
 #include "core/platform/settingsstore.h"
 
+#include <functional>
+#include <string>
+
 namespace kelvora {
 
 /// What opening and saving files need from the program: the context (its Unidades, folders
@@ -12,6 +15,9 @@ struct EntornoArchivos {
     ContextoAplicacion& contexto;
     Prompter& prompter;
     SettingsStore& ajustes;
+    /// Puts a file at the head of the recent files. Left empty, the list in `ajustes` is
+    /// updated; the frame gives its own, which also rebuilds its menu.
+    std::function<void(const std::string& nombre)> AgregarReciente = {};
 };
 
 }  // namespace kelvora

@@ -23,12 +23,16 @@ bool EsListado(int tag) {
 constexpr int kGrafica = 15;
 
 void GuardarDatos(VentanaArchivo& ventana, int tag, const std::string& nombre,
-                  SettingsStore& ajustes) {
+                  SettingsStore& ajustes, const std::function<void(const std::string&)>& reciente) {
     const classUnidades vacia;
     const classUnidades* unit = ventana.Unit();
     const auto lineas = LineasDatosArchivo(tag, ventana.TipoAnalisis(), unit ? *unit : vacia);
     EscribirBytesArchivo(nombre, BytesArchivoTexto(lineas));
-    AgregarArchivoReciente(ajustes, nombre);
+    if (reciente) {
+        reciente(nombre);
+    } else {
+        AgregarArchivoReciente(ajustes, nombre);
+    }
 }
 
 void GuardarImagen(const VentanaArchivo& ventana, const std::string& nombre) {
@@ -36,10 +40,11 @@ void GuardarImagen(const VentanaArchivo& ventana, const std::string& nombre) {
                       [&ventana](const std::string& temporal) { ventana.GuardarImagen(temporal); });
 }
 
-void Guardar(VentanaArchivo& ventana, const std::string& nombre, SettingsStore& ajustes) {
+void Guardar(VentanaArchivo& ventana, const std::string& nombre, SettingsStore& ajustes,
+             const std::function<void(const std::string&)>& reciente) {
     const int tag = NumeroTag(ventana.Tag());
     if (EsVentanaDatos(tag)) {
-        GuardarDatos(ventana, tag, nombre, ajustes);
+        GuardarDatos(ventana, tag, nombre, ajustes, reciente);
     } else if (tag == kGrafica) {
         GuardarImagen(ventana, nombre);
     } else if (EsListado(tag)) {
@@ -52,9 +57,10 @@ void Guardar(VentanaArchivo& ventana, const std::string& nombre, SettingsStore& 
 }  // namespace
 
 bool GuardarArchivo(VentanaArchivo& ventana, const std::string& nombre, Prompter& prompter,
-                    SettingsStore& ajustes) {
+                    SettingsStore& ajustes,
+                    const std::function<void(const std::string&)>& agregarReciente) {
     try {
-        Guardar(ventana, nombre, ajustes);
+        Guardar(ventana, nombre, ajustes, agregarReciente);
         return true;
     } catch (const RuntimeError& error) {
         Mensaje mensaje;

@@ -29,7 +29,8 @@ bool Guardar(VentanaArchivo& ventana, bool comoNuevo, EntornoArchivos& entorno,
              DialogosArchivo& dialogos) {
     const std::optional<std::string> nombre =
             NombreParaGuardar(ventana, comoNuevo, entorno, dialogos);
-    if (!nombre || !GuardarArchivo(ventana, *nombre, entorno.prompter, entorno.ajustes)) {
+    if (!nombre || !GuardarArchivo(ventana, *nombre, entorno.prompter, entorno.ajustes,
+                                   entorno.AgregarReciente)) {
         return false;
     }
     ventana.SetFileState(kGuardado);

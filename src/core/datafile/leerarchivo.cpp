@@ -21,6 +21,14 @@ void MostrarError(Prompter& prompter, const std::string& texto, const std::strin
     prompter.MsgBox(mensaje);
 }
 
+void Reciente(EntornoArchivos& entorno, const std::string& nombre) {
+    if (entorno.AgregarReciente) {
+        entorno.AgregarReciente(nombre);
+    } else {
+        AgregarArchivoReciente(entorno.ajustes, nombre);
+    }
+}
+
 bool EntregarAVentana(const std::string& nombre, int16_t Tipo, EntornoArchivos& entorno,
                       const CrearVentanaDatos& crear) {
     const std::optional<VentanaEntrada> clase = VentanaEntradaDeTipo(Tipo);
@@ -34,7 +42,7 @@ bool EntregarAVentana(const std::string& nombre, int16_t Tipo, EntornoArchivos& 
     ventana->ShowVariables();
     ventana->SetFileState(kLeidoDeArchivo);
     ventana->SetFileName(nombre);
-    AgregarArchivoReciente(entorno.ajustes, nombre);
+    Reciente(entorno, nombre);
     return true;
 }
 
@@ -65,7 +73,7 @@ bool LeerArchivo(const std::string& nombre, EntornoArchivos& entorno,
                EntregarAVentana(nombre, Tipo, entorno, crear);
     } catch (const RuntimeError& error) {
         MostrarError(entorno.prompter, "Error: " + error.description, kTituloAplicacion);
-        AgregarArchivoReciente(entorno.ajustes, "");
+        Reciente(entorno, "");
         return false;
     }
 }
