@@ -2,6 +2,8 @@
 
 #include "cli/calcular.h"
 #include "cli/convertir.h"
+#include "cli/economia.h"
+#include "cli/graficar.h"
 #include "cli/materiales.h"
 
 #include <iostream>
@@ -33,6 +35,13 @@ const std::vector<Comando>& Comandos() {
             {"materiales", "materiales", ComandoMateriales},
             {"tubo", "tubo NOMINAL", ComandoTubo},
             {"calcular", "calcular ARCHIVO.adk... [--json] [--sin-bd]", ComandoCalcular},
+            {"economia",
+             "economia ARCHIVO.adk [--areas A,B,C | --longitudes A,B] [--unidad U] [--horas H] "
+             "[--combustible NOMBRE] [--nombre N] [--poder P] [--valor V] [--moneda M] "
+             "[--eficiencia E] [--json] [--sin-bd]",
+             ComandoEconomia},
+            {"graficar", "graficar ARCHIVO.adk --tipo 1|2 [--json] [--png F] [--svg F] [--sin-bd]",
+             ComandoGraficar},
     };
     return comandos;
 }

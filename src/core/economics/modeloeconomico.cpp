@@ -291,7 +291,7 @@ void ModeloEconomico::Activar() {
 }
 
 void ModeloEconomico::ActualizarEstadoAnalisis() {
-    mAceptarHabilitado = Completo();
+    mAceptarHabilitado = DatosFaltantes().empty();
     LimpiarResultados(false);
     const bool hayResultado = !mCajas.at(mVentana.resultados.front().indice).Text.empty();
     mTag = mAceptarHabilitado && hayResultado ? mVentana.tag : "0";
@@ -300,14 +300,21 @@ void ModeloEconomico::ActualizarEstadoAnalisis() {
     }
 }
 
-bool ModeloEconomico::Completo() const {
+std::vector<std::string> ModeloEconomico::DatosFaltantes() const {
+    std::vector<std::string> faltantes;
     for (const CajaEconomica& caja : mVentana.Entradas()) {
         const std::string& texto = mCajas.at(caja.indice).Text;
         if (EsNombre(caja.indice) ? texto.empty() : !IsNumeric(texto)) {
-            return false;
+            faltantes.emplace_back(caja.toolTip);
         }
     }
-    return IsNumeric(mHoras.Text) && mCombustible.ListIndex >= 0;
+    if (!IsNumeric(mHoras.Text)) {
+        faltantes.push_back(mHoras.ToolTipText);
+    }
+    if (mCombustible.ListIndex < 0) {
+        faltantes.push_back(mCombustible.ToolTipText);
+    }
+    return faltantes;
 }
 
 bool ModeloEconomico::EsNombre(int indice) const {
@@ -454,9 +461,10 @@ void ModeloEconomico::Calcular() {
 void ModeloEconomico::CalcularAhorro(const std::vector<double>& dimensiones, double horas,
                                      double valor, int16_t, double poder, const std::string& moneda,
                                      float eficiencia) {
-    const DatosAhorro datos{mQSD,  mQSA,  dimensiones, horas,
-                            valor, poder, eficiencia,  mVentana.ordenTotal};
+    DatosAhorro datos{mQSD,  mQSA,  dimensiones, horas,
+                      valor, poder, eficiencia,  mVentana.ordenTotal};
     mMontos = CalcularMontos(datos);
+    mDatos = std::move(datos);
     const std::string simbolo = mContexto.Unidades.getUnitCurrency(moneda);
     {
         const Guarda guarda(mGuarda);

@@ -103,6 +103,9 @@ public:
     void Activar();
     void cmdAceptar_Click();
     void ActualizarEstadoAnalisis();
+    /// Tool tips of what keeps "C&alcular" disabled: a box that is not a number (the fuel's
+    /// name: an empty one), an hours text that is not a number, no fuel.
+    std::vector<std::string> DatosFaltantes() const;
 
     /// The saving for the given areas (pie²) or lengths (pie), hours per year, price, fuel
     /// (counted from 1), calorific value, currency name and efficiency; fills the result boxes.
@@ -110,7 +113,8 @@ public:
                         int16_t indiceCombustible, double poder, const std::string& moneda,
                         float eficiencia);
 
-    /// The values of the last calculation.
+    /// The inputs and the values of the last calculation.
+    const DatosAhorro& DatosCalculo() const { return mDatos; }
     const Ahorro& Montos() const { return mMontos; }
     const std::string& Moneda() const { return mMoneda; }
     float Eficiencia() const { return mEficiencia; }
@@ -132,7 +136,6 @@ private:
     void Escribir(int indice, const std::string& texto);
     void Habilitar(int indice, bool habilitar);
     void Seleccionar(ListaAnalisis& lista, int entrada);
-    bool Completo() const;
     bool EsNombre(int indice) const;
     bool EsResultado(int indice) const;
     bool Comprobar();
@@ -167,6 +170,7 @@ private:
     std::vector<double> mQSD;
     std::vector<double> mQSA;
     ValoresPublicos mValores;
+    DatosAhorro mDatos;
     Ahorro mMontos;
     std::string mMoneda;
     float mEficiencia = 0;

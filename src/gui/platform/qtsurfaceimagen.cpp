@@ -19,7 +19,8 @@ namespace kelvora {
 
 namespace {
 
-constexpr double kMmPorPunto = 25.4 / 72.0;
+constexpr double kMmPorPulgada = 25.4;
+constexpr double kMmPorPunto = kMmPorPulgada / 72.0;
 
 // Fonts and painting need a Qt application; without a display it runs on the offscreen
 // platform.
@@ -147,6 +148,7 @@ bool QtSurfaceImagen::GuardarSvg(const std::string& archivo) const {
                        static_cast<int>(std::lround(Pixeles(mAltoMm))));
     generador.setSize(tamano);
     generador.setViewBox(QRect(QPoint(0, 0), tamano));
+    generador.setResolution(static_cast<int>(std::lround(mPixelesPorMm * kMmPorPulgada)));
     generador.setTitle("Kelvora");
     {
         QPainter pintor;

@@ -1,0 +1,410 @@
+#include "cli/economia.h"
+
+#include "cli/calcular.h"
+#include "cli/json.h"
+#include "core/app/contexto.h"
+#include "core/economics/modeloeconomico.h"
+#include "core/platform/clock.h"
+#include "core/platform/prompter.h"
+#include "core/runtime/formato.h"
+#include "core/runtime/numeros.h"
+#include "core/runtime/texto.h"
+#include "core/thermal/modeloresultados.h"
+
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <iostream>
+#include <map>
+#include <optional>
+
+namespace kelvora::cli {
+
+namespace {
+
+constexpr const char* kUso =
+        "Uso: kelvora-cli economia ARCHIVO.adk [--areas A,B,C | --longitudes A,B] [--unidad U] "
+        "[--horas H] [--combustible NOMBRE] [--nombre N] [--poder P] [--valor V] [--moneda M] "
+        "[--eficiencia E] [--json] [--sin-bd]";
+
+// Options that take a value, and the two that stand alone.
+const std::vector<std::string> kConValor = {"--areas",       "--longitudes", "--unidad", "--horas",
+                                            "--combustible", "--nombre",     "--poder",  "--valor",
+                                            "--moneda",      "--eficiencia"};
+
+struct OpcionesEconomia {
+    std::string archivo;
+    std::map<std::string, std::string> valores;
+    bool json = false;
+    bool sinBD = false;
+
+    const std::string* Valor(const std::string& opcion) const {
+        const auto it = valores.find(opcion);
+        return it == valores.end() ? nullptr : &it->second;
+    }
+};
+
+bool ConValor(const std::string& opcion) {
+    for (const std::string& nombre : kConValor) {
+        if (nombre == opcion) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::optional<OpcionesEconomia> LeerOpciones(const Argumentos& argumentos) {
+    OpcionesEconomia opciones;
+    for (size_t i = 0; i < argumentos.size(); ++i) {
+        const std::string& a = argumentos[i];
+        if (a == "--json" || a == "--sin-bd") {
+            (a == "--json" ? opciones.json : opciones.sinBD) = true;
+        } else if (ConValor(a) && i + 1 < argumentos.size()) {
+            opciones.valores[a] = argumentos[++i];
+        } else if (a.starts_with("-") || !opciones.archivo.empty()) {
+            std::cerr << "Opción desconocida o sin valor: " << a << '\n';
+            return std::nullopt;
+        } else {
+            opciones.archivo = a;
+        }
+    }
+    if (opciones.archivo.empty()) {
+        return std::nullopt;
+    }
+    return opciones;
+}
+
+// A number as a box takes it: a point or a comma as the decimal mark, written with the point.
+std::optional<std::string> TextoNumerico(std::string texto) {
+    std::string limpio = NormalizarDecimal(texto);
+    double valor = 0;
+    const char* fin = limpio.data() + limpio.size();
+    const auto [resto, error] = std::from_chars(limpio.data(), fin, valor);
+    if (limpio.empty() || error != std::errc() || resto != fin || !std::isfinite(valor)) {
+        return std::nullopt;
+    }
+    return limpio;
+}
+
+std::vector<std::string> Partes(const std::string& lista) {
+    std::vector<std::string> partes;
+    size_t inicio = 0;
+    for (size_t coma = lista.find(','); coma != std::string::npos; coma = lista.find(',', inicio)) {
+        partes.push_back(lista.substr(inicio, coma - inicio));
+        inicio = coma + 1;
+    }
+    partes.push_back(lista.substr(inicio));
+    return partes;
+}
+
+int IndiceEn(const std::vector<std::string>& entradas, const std::string& buscada) {
+    for (size_t i = 0; i < entradas.size(); ++i) {
+        if (IgualTexto(entradas[i], buscada)) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
+}
+
+std::string Lista(const std::vector<std::string>& entradas) {
+    std::string texto;
+    for (const std::string& entrada : entradas) {
+        texto += (texto.empty() ? "" : ", ") + entrada;
+    }
+    return texto;
+}
+
+class RelojSistema : public Clock {
+public:
+    Fecha Hoy() override {
+        const auto hoy = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
+        const std::chrono::year_month_day fecha(hoy);
+        return {static_cast<int>(fecha.year()), static_cast<int>(unsigned(fecha.month())),
+                static_cast<int>(unsigned(fecha.day()))};
+    }
+};
+
+// Passes every box on and keeps those of the economic window for the JSON listing.
+class PrompterRegistro : public Prompter {
+public:
+    explicit PrompterRegistro(Prompter& destino) : mDestino(destino) {}
+
+    Respuesta MsgBox(const Mensaje& mensaje) override {
+        mensajes.push_back(mensaje);
+        return mDestino.MsgBox(mensaje);
+    }
+    std::optional<std::string> InputBox(const Entrada& entrada) override {
+        return mDestino.InputBox(entrada);
+    }
+
+    std::vector<Mensaje> mensajes;
+
+private:
+    Prompter& mDestino;
+};
+
+// Fills the economic window from the options as a user would, box after box; false after a
+// message on standard error when an option does not fit the window.
+class Llenado {
+public:
+    Llenado(ModeloEconomico& modelo, const OpcionesEconomia& opciones)
+        : mModelo(modelo), mVentana(modelo.Ventana()), mOpciones(opciones) {}
+
+    bool Llenar() {
+        return Dimensiones() && Horas() && Combustible() && Escrito() && Valor() && Moneda() &&
+               Eficiencia();
+    }
+
+private:
+    bool Rechazar(const std::string& texto) {
+        std::cerr << texto << '\n';
+        return false;
+    }
+
+    bool Escribir(int caja, const std::string& opcion) {
+        mModelo.txtValor_GotFocus(caja);
+        const std::string* valor = mOpciones.Valor(opcion);
+        if (valor == nullptr) {
+            return true;
+        }
+        const std::optional<std::string> texto = TextoNumerico(*valor);
+        if (!texto) {
+            return Rechazar("El valor de " + opcion + " no es un número: " + *valor);
+        }
+        mModelo.SetText(caja, *texto);
+        return true;
+    }
+
+    bool Dimensiones() {
+        const bool planas = mVentana.Orientaciones() == 3;
+        const std::string propia = planas ? "--areas" : "--longitudes";
+        if (mOpciones.Valor(planas ? "--longitudes" : "--areas") != nullptr) {
+            return Rechazar("Este análisis pide " + propia + ".");
+        }
+        if (!Unidad()) {
+            return false;
+        }
+        const std::string* lista = mOpciones.Valor(propia);
+        const std::vector<std::string> partes = lista ? Partes(*lista) : std::vector<std::string>();
+        if (lista != nullptr && partes.size() != mVentana.dimensiones.size()) {
+            return Rechazar(propia + " lleva " + std::to_string(mVentana.dimensiones.size()) +
+                            " valores separados por comas.");
+        }
+        for (size_t o = 0; o < partes.size(); ++o) {
+            const std::optional<std::string> texto = TextoNumerico(partes[o]);
+            if (!texto) {
+                return Rechazar("El valor de " + propia + " no es un número: " + partes[o]);
+            }
+            mModelo.txtValor_GotFocus(mVentana.dimensiones[o].indice);
+            mModelo.SetText(mVentana.dimensiones[o].indice, *texto);
+        }
+        return true;
+    }
+
+    bool Unidad() {
+        const std::string* unidad = mOpciones.Valor("--unidad");
+        if (unidad == nullptr) {
+            return true;
+        }
+        const std::vector<std::string>& unidades =
+                mModelo.cboUnidad(mVentana.dimensiones.front().indice).entradas;
+        const int entrada = IndiceEn(unidades, *unidad);
+        if (entrada < 0) {
+            return Rechazar("Unidad desconocida: " + *unidad + " (" + Lista(unidades) + ")");
+        }
+        for (const CajaEconomica& caja : mVentana.dimensiones) {
+            mModelo.SeleccionarUnidad(caja.indice, entrada);
+        }
+        return true;
+    }
+
+    bool Horas() {
+        const std::string* horas = mOpciones.Valor("--horas");
+        if (horas == nullptr) {
+            return true;
+        }
+        const std::optional<std::string> texto = TextoNumerico(*horas);
+        if (!texto) {
+            return Rechazar("El valor de --horas no es un número: " + *horas);
+        }
+        mModelo.SetHoras(*texto);
+        return true;
+    }
+
+    bool Combustible() {
+        const std::string* nombre = mOpciones.Valor("--combustible");
+        if (nombre == nullptr) {
+            return true;
+        }
+        const int entrada = IndiceEn(mModelo.cboCombustibleUtilizado().entradas, *nombre);
+        if (entrada < 0) {
+            return Rechazar("Combustible desconocido: " + *nombre + " (" +
+                            Lista(mModelo.cboCombustibleUtilizado().entradas) + ")");
+        }
+        mModelo.SeleccionarCombustible(entrada);
+        return true;
+    }
+
+    // The fuel's name and calorific value are typed only for "Otro".
+    bool Escrito() {
+        const bool otro = mModelo.txtValor(mVentana.poder.indice).Enabled;
+        const std::string* nombre = mOpciones.Valor("--nombre");
+        if (!otro && (nombre != nullptr || mOpciones.Valor("--poder") != nullptr)) {
+            return Rechazar("--nombre y --poder solo valen con --combustible Otro.");
+        }
+        if (nombre != nullptr) {
+            mModelo.txtValor_GotFocus(mVentana.nombreCombustible.indice);
+            mModelo.SetText(mVentana.nombreCombustible.indice, *nombre);
+        }
+        return !otro || Escribir(mVentana.poder.indice, "--poder");
+    }
+
+    bool Valor() { return Escribir(mVentana.valor.indice, "--valor"); }
+
+    bool Moneda() {
+        const std::string* moneda = mOpciones.Valor("--moneda");
+        if (moneda == nullptr) {
+            return true;
+        }
+        const std::vector<std::string>& monedas = mModelo.cboUnidad(mVentana.valor.indice).entradas;
+        const int entrada = IndiceEn(monedas, *moneda);
+        if (entrada < 0) {
+            return Rechazar("Moneda desconocida: " + *moneda + " (" + Lista(monedas) + ")");
+        }
+        mModelo.SeleccionarUnidad(mVentana.valor.indice, entrada);
+        return true;
+    }
+
+    // Passing through the efficiency box fills an empty one with 100.
+    bool Eficiencia() { return Escribir(mVentana.eficiencia.indice, "--eficiencia"); }
+
+    ModeloEconomico& mModelo;
+    const VentanaEconomica& mVentana;
+    const OpcionesEconomia& mOpciones;
+};
+
+// The costs read as the result boxes do: the currency's symbol and the amount.
+std::string Monto(const ModeloEconomico& modelo, double valor) {
+    return classUnidades().getUnitCurrency(modelo.Moneda()) + Format(valor, "0,000.0#");
+}
+
+constexpr const char* kCostoDesnuda = "TOTAL COSTO COMBUSTIBLE/AÑO (SUP. DESNUDA)";
+constexpr const char* kCostoAislada = "TOTAL COSTO COMBUSTIBLE/AÑO (SUP. AISLADA)";
+
+void ImprimirTexto(const ModeloEconomico& m) {
+    for (const CajaEconomica& caja : m.Ventana().resultados) {
+        std::cout << m.lblEtiqueta(caja.indice).Caption << ' ' << m.txtValor(caja.indice).Text
+                  << '\n';
+    }
+    std::cout << kCostoDesnuda << ": " << Monto(m, m.CostoTotalSD()) << '\n';
+    std::cout << kCostoAislada << ": " << Monto(m, m.CostoTotalSA()) << '\n';
+}
+
+void ListaNumeros(EscritorJson& json, const char* clave, const std::vector<double>& numeros) {
+    json.Clave(clave).AbrirLista();
+    for (const double numero : numeros) {
+        json.Numero(numero);
+    }
+    json.CerrarLista();
+}
+
+void Entradas(EscritorJson& json, const ModeloEconomico& m) {
+    const DatosAhorro& d = m.DatosCalculo();
+    const VentanaEconomica& v = m.Ventana();
+    json.Clave("entradas").AbrirObjeto();
+    ListaNumeros(json, "QSD", d.QSD);
+    ListaNumeros(json, "QSA", d.QSA);
+    ListaNumeros(json, "dimensiones", d.dimensiones);
+    json.Clave("unidad").Texto(m.cboUnidad(v.dimensiones.front().indice).Text);
+    json.Clave("horas").Numero(d.horas).Clave("combustible");
+    json.Texto(m.cboCombustibleUtilizado().Text).Clave("nombre");
+    json.Texto(m.txtValor(v.nombreCombustible.indice).Text).Clave("valor").Numero(d.valor);
+    json.Clave("poder").Numero(d.poder).Clave("eficiencia").Numero(d.eficiencia);
+    json.CerrarObjeto();
+}
+
+void Resultados(EscritorJson& json, const ModeloEconomico& m) {
+    const Ahorro& a = m.Montos();
+    const std::vector<CajaEconomica>& cajas = m.Ventana().resultados;
+    json.Clave("resultados").AbrirLista();
+    for (size_t o = 0; o < cajas.size(); ++o) {
+        json.AbrirObjeto().Clave("caja").Numero(cajas[o].indice).Clave("etiqueta");
+        json.Texto(m.lblEtiqueta(cajas[o].indice).Caption).Clave("texto");
+        json.Texto(m.txtValor(cajas[o].indice).Text);
+        if (o < a.ahorro.size()) {
+            json.Clave("combustible").Numero(a.combustible[o]).Clave("ahorro").Numero(a.ahorro[o]);
+        } else {
+            json.Clave("ahorro").Numero(a.total);
+        }
+        json.CerrarObjeto();
+    }
+    json.CerrarLista();
+}
+
+std::string Json(const OpcionesEconomia& o, const ModeloEconomico& m,
+                 const std::vector<Mensaje>& mensajes, bool bien) {
+    EscritorJson json;
+    json.AbrirObjeto().Clave("archivo").Texto(o.archivo).Clave("ventana");
+    json.Texto(m.Ventana().nombre).Clave("tipo").Numero(m.TipoAnalisis());
+    json.Clave("ok").Booleano(bien).Clave("mensajes").AbrirLista();
+    for (const Mensaje& mensaje : mensajes) {
+        json.Texto(mensaje.texto);
+    }
+    json.CerrarLista();
+    if (bien) {
+        Entradas(json, m);
+        Resultados(json, m);
+        json.Clave("CostoTotalSD").Numero(m.CostoTotalSD());
+        json.Clave("CostoTotalSA").Numero(m.CostoTotalSA());
+        json.Clave("textoCostoTotalSD").Texto(Monto(m, m.CostoTotalSD()));
+        json.Clave("textoCostoTotalSA").Texto(Monto(m, m.CostoTotalSA()));
+        json.Clave("Moneda").Texto(m.Moneda()).Clave("Eficiencia").Numero(m.Eficiencia());
+        json.Clave("Tag").Texto(m.Tag());
+    }
+    json.CerrarObjeto();
+    return json.Resultado();
+}
+
+int Analizar(ArchivoAbierto& abierto, const OpcionesEconomia& opciones) {
+    const std::optional<TipoEconomico> tipo = AnalisisEconomicoDe(*abierto.resultados);
+    if (!tipo) {
+        std::cerr << opciones.archivo << ": el análisis económico es solo de los análisis en "
+                  << "caliente.\n";
+        return kSalidaDetenido;
+    }
+    PrompterRegistro prompter(abierto.prompter);
+    RelojSistema reloj;
+    ModeloEconomico modelo(*tipo, abierto.contexto, prompter, abierto.bomba, reloj);
+    modelo.setVariables(ValoresParaAnalisis(*abierto.resultados));
+    if (!Llenado(modelo, opciones).Llenar()) {
+        return kSalidaUso;
+    }
+    const std::vector<std::string> faltantes = modelo.DatosFaltantes();
+    if (!faltantes.empty()) {
+        std::cerr << opciones.archivo
+                  << ": faltan datos del análisis económico: " << Lista(faltantes) << ".\n";
+    } else {
+        modelo.cmdAceptar_Click();
+    }
+    const bool bien = modelo.Tag() == modelo.Ventana().tag;
+    if (opciones.json) {
+        std::cout << Json(opciones, modelo, prompter.mensajes, bien) << '\n';
+    } else if (bien) {
+        ImprimirTexto(modelo);
+    }
+    return bien ? kSalidaBien : kSalidaDetenido;
+}
+
+}  // namespace
+
+int ComandoEconomia(const Argumentos& argumentos) {
+    const std::optional<OpcionesEconomia> opciones = LeerOpciones(argumentos);
+    if (!opciones) {
+        std::cerr << kUso << '\n';
+        return kSalidaUso;
+    }
+    return ConArchivo(opciones->archivo, opciones->sinBD, true,
+                      [&](ArchivoAbierto& abierto) { return Analizar(abierto, *opciones); });
+}
+
+}  // namespace kelvora::cli

@@ -1,0 +1,28 @@
+# Runs kelvora-cli economia --json with the options in OPCIONES (a list) and checks the exit
+# status (ESPERADO) and, but for a usage error, the JSON object: ok, the number of result
+# boxes (CAJAS) and a message (MENSAJE) when given.
+execute_process(COMMAND ${CLI} economia ${ARCHIVO} --json ${OPCIONES}
+        RESULT_VARIABLE salida OUTPUT_VARIABLE json ERROR_VARIABLE errores)
+if(NOT salida EQUAL ESPERADO)
+    message(FATAL_ERROR "kelvora-cli terminó con ${salida}, no ${ESPERADO}: ${errores}\n${json}")
+endif()
+if(ESPERADO EQUAL 2)
+    return()
+endif()
+string(JSON ok ERROR_VARIABLE error GET "${json}" ok)
+if(error)
+    message(FATAL_ERROR "La salida no es un objeto JSON: ${error}\n${json}")
+endif()
+if(DEFINED CAJAS)
+    string(JSON cajas LENGTH "${json}" resultados)
+    string(JSON tag GET "${json}" Tag)
+    if(NOT ok OR NOT cajas EQUAL CAJAS OR NOT tag STREQUAL TAG)
+        message(FATAL_ERROR "Se esperaban ${CAJAS} cajas y Tag ${TAG}\n${json}")
+    endif()
+endif()
+if(DEFINED MENSAJE)
+    string(JSON mensaje GET "${json}" mensajes 0)
+    if(ok OR NOT mensaje STREQUAL MENSAJE)
+        message(FATAL_ERROR "Se esperaba el mensaje \"${MENSAJE}\"\n${json}")
+    endif()
+endif()
