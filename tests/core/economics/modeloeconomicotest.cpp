@@ -92,6 +92,12 @@ TEST(ModeloEconomico, EstadoInicialPorVentana) {
                   "Valor del co&mbustible por kg:");
         EXPECT_EQ(m.lblEtiqueta(c.poder).Caption, "&Poder Calorífico (BTU/kg):");
         EXPECT_FALSE(m.cmdAceptarEnabled());
+        std::vector<std::string> faltantes = {"Eficiencia del Equipo (%)"};
+        for (const CajaEconomica& caja : m.Ventana().dimensiones) {
+            faltantes.emplace_back(caja.toolTip);
+        }
+        faltantes.emplace_back("Valor del Combustible utilizado");
+        EXPECT_EQ(m.DatosFaltantes(), faltantes);
         EXPECT_FALSE(m.fraResultadosEnabled());
         EXPECT_EQ(m.Tag(), "0");
         // Loading selects the first fuel, and its click shows it.
