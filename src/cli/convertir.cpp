@@ -34,12 +34,13 @@ std::optional<double> LeerValor(std::string texto) {
 
 // The default text with the point as decimal mark, for scripts that read it back.
 std::string TextoConPunto(double valor) {
-    std::string texto = TextoNumero(valor);
+    const std::string texto = TextoNumero(valor);
     const std::string& decimal = LocaleActual().decimal;
-    if (const size_t pos = texto.find(decimal); pos != std::string::npos && decimal != ".") {
-        texto.replace(pos, decimal.size(), ".");
+    const size_t pos = decimal == "." ? std::string::npos : texto.find(decimal);
+    if (pos == std::string::npos) {
+        return texto;
     }
-    return texto;
+    return texto.substr(0, pos) + "." + texto.substr(pos + decimal.size());
 }
 
 int Uso(const char* uso) {
