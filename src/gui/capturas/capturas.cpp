@@ -4,6 +4,7 @@
 #include "gui/app/frmaboutbox.h"
 #include "gui/app/frmsplash.h"
 #include "gui/app/mdikelvora.h"
+#include "gui/datafile/capturasejemplos.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -51,6 +52,14 @@ const std::vector<Captura>& Capturas() {
         {"mdikelvora-archivo", Principal, AbrirMenu("mnuArchivo")},
         {"frmsplash",  [](EntornoCaptura& e) { return std::make_unique<frmSplash>(e.contexto); }, {}},
         {"frmaboutbox", [](EntornoCaptura&) { return std::make_unique<frmAboutBox>(); }, {}},
+        {"frmdatosentradasuperficiesplanas",         MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/velmar80.adk", false)},
+        {"frmdatosentradasuperficiescilindricas",    MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/nivara.adk", false)},
+        {"frmdatosentradasuperficiesplanasfrio",     MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/tavelas-poliuretano.adk", false)},
+        {"frmdatosentradasuperficiescilindricasfrio", MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/orbelas-poliuretano.adk", false)},
+        {"frmresultadossuperficiesplanas",           MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/velmar80.adk", true)},
+        {"frmresultadossuperficiescilindricas",      MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/nivara.adk", true)},
+        {"frmresultadossuperficiesplanasfrio",       MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/tavelas-poliuretano.adk", true)},
+        {"frmresultadossuperficiescilindricasfrio",  MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/orbelas-poliuretano.adk", true)},
     };
     // clang-format on
     return capturas;
