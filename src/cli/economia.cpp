@@ -7,7 +7,6 @@
 #include "core/platform/clock.h"
 #include "core/platform/prompter.h"
 #include "core/runtime/formato.h"
-#include "core/runtime/numeros.h"
 #include "core/runtime/texto.h"
 #include "core/thermal/modeloresultados.h"
 
