@@ -1,6 +1,7 @@
 #include "gui/app/fabricaprograma.h"
 
 #include "gui/datafile/archivosventanas.h"
+#include "gui/materials/ventanasmateriales.h"
 #include "gui/platform/texto.h"
 
 #include <QPrinterInfo>
@@ -18,6 +19,10 @@ FabricaVentanas CrearFabrica(mdiKelvora& principal, ContextoAplicacion& contexto
     fabrica.GuardarVentana = std::bind_front(&ArchivosVentanas::GuardarVentana, calculo);
     fabrica.PreguntarGuardar = std::bind_front(&ArchivosVentanas::PreguntarGuardar, calculo);
     fabrica.NombreImpresora = [] { return S(QPrinterInfo::defaultPrinterName()); };
+    auto* materiales = new VentanasMateriales(principal, contexto, prompter);
+    fabrica.InsertarMaterial = std::bind_front(&VentanasMateriales::InsertarMaterial, materiales);
+    fabrica.ConsultarMateriales =
+            std::bind_front(&VentanasMateriales::ConsultarMateriales, materiales);
     return fabrica;
 }
 

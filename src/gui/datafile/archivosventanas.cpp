@@ -7,6 +7,7 @@
 #include "gui/app/mdikelvora.h"
 #include "gui/datafile/qtdialogosarchivo.h"
 #include "gui/entry/frmdatosentrada.h"
+#include "gui/materials/ventanasmateriales.h"
 #include "gui/platform/texto.h"
 
 namespace kelvora {
@@ -35,6 +36,7 @@ ArchivosVentanas::ArchivosVentanas(mdiKelvora& principal, ContextoAplicacion& co
       mArchivos{contexto, prompter, ajustes, [this](const std::string& archivo) {
                     mPrincipal.AgregarArchivoReciente(archivo);
                 }} {
+    mEntorno.ConsultarMateriales = AbrirConsultaMateriales;
 }
 
 ArchivosVentanas::~ArchivosVentanas() = default;
