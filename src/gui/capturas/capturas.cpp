@@ -5,6 +5,7 @@
 #include "gui/app/frmsplash.h"
 #include "gui/app/mdikelvora.h"
 #include "gui/datafile/capturasejemplos.h"
+#include "gui/materials/capturasmateriales.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -60,6 +61,8 @@ const std::vector<Captura>& Capturas() {
         {"frmresultadossuperficiescilindricas",      MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/nivara.adk", true)},
         {"frmresultadossuperficiesplanasfrio",       MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/tavelas-poliuretano.adk", true)},
         {"frmresultadossuperficiescilindricasfrio",  MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/orbelas-poliuretano.adk", true)},
+        {"frmconsultarmateriales",                   MarcoCapturas<EntornoCaptura>, AbrirConsultaMaterialesCaptura()},
+        {"frminsertarmaterial",                      InsertarMaterialCaptura<EntornoCaptura>, {}},
     };
     // clang-format on
     return capturas;

@@ -101,6 +101,10 @@ void frmConsultarMateriales::ConectarFormulario() {
 
 void frmConsultarMateriales::ConectarGrilla() {
     QTableWidget* grilla = mUi->MSFGResultados;
+    // Rows as tight as a flexible grid's: one line of text and a small margin.
+    const int alto = grilla->fontMetrics().height() + 6;
+    grilla->verticalHeader()->setMinimumSectionSize(alto);
+    grilla->verticalHeader()->setDefaultSectionSize(alto);
     grilla->installEventFilter(this);
     connect(grilla, &QTableWidget::itemSelectionChanged, this,
             &frmConsultarMateriales::TomarSeleccion);
