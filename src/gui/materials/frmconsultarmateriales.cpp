@@ -143,6 +143,9 @@ void frmConsultarMateriales::Activar() {
 }
 
 bool frmConsultarMateriales::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() == QEvent::FocusIn) {
+        SeleccionarAlEntrar(objeto);
+    }
     if (evento->type() != QEvent::KeyPress) {
         return QWidget::eventFilter(objeto, evento);
     }
@@ -158,6 +161,15 @@ bool frmConsultarMateriales::eventFilter(QObject* objeto, QEvent* evento) {
         return true;
     }
     return QWidget::eventFilter(objeto, evento);
+}
+
+// A box takes the focus with its text selected, after the click that brought it there.
+void frmConsultarMateriales::SeleccionarAlEntrar(QObject* objeto) {
+    for (int i = 1; i <= 3; ++i) {
+        if (objeto == Caja(i)) {
+            QMetaObject::invokeMethod(Caja(i), &QLineEdit::selectAll, Qt::QueuedConnection);
+        }
+    }
 }
 
 bool frmConsultarMateriales::TeclaCajaNumero(int i, const QKeyEvent& tecla) {

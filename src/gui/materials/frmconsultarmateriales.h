@@ -38,6 +38,7 @@ private:
     void ConectarBotones();
     /// Runs a command of the model and shows what it left.
     void Ejecutar(void (ModeloConsultaMateriales::*comando)());
+    void SeleccionarAlEntrar(QObject* objeto);
     bool TeclaCajaNumero(int i, const QKeyEvent& tecla);
     bool TeclaGrilla(const QKeyEvent& tecla);
     void TomarSeleccion();
