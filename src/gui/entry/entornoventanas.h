@@ -25,7 +25,6 @@ struct EntornoVentanas {
     /// Offers to save a window before it closes; false stops the closing.
     std::function<bool(QWidget* ventana)> PreguntarGuardar;
     /// Shows the material query window in selection mode, to fill a code box of `llamador`.
-    /// Empty while the program has no such window: the button that would open it is disabled.
     std::function<void(QWidget* llamador, int cajaCodigo)> ConsultarMateriales = {};
 };
 

@@ -65,21 +65,11 @@ frmDatosEntrada::frmDatosEntrada(const DescripcionEntrada& descripcion, EntornoV
     Refrescar();
 }
 
-// The query window is not part of the program yet: until it is, the button says so.
 EntornoEntrada frmDatosEntrada::EntornoModelo() {
-    auto consultar = [this](int cajaCodigo) {
-        if (mEntorno.ConsultarMateriales) {
-            mEntorno.ConsultarMateriales(this, cajaCodigo);
-            return;
-        }
-        Mensaje mensaje;
-        mensaje.texto =
-                "La consulta de materiales aún no está disponible. Escriba el código del material "
-                "o desactive la opción \"Leer Emisividad en Base de Datos\" para escribir la "
-                "emisividad.";
-        mensaje.icono = Icono::Informacion;
-        mEntorno.prompter.MsgBox(mensaje);
-    };
+    std::function<void(int)> consultar;
+    if (mEntorno.ConsultarMateriales) {
+        consultar = [this](int cajaCodigo) { mEntorno.ConsultarMateriales(this, cajaCodigo); };
+    }
     return {mEntorno.prompter, mEntorno.contexto, mMateriales, mBomba, [this] { PublicarEstado(); },
             consultar};
 }
@@ -167,14 +157,20 @@ void frmDatosEntrada::txtValor_Editada(int i) {
 void frmDatosEntrada::cmdAceptar_Click() {
     ++mCalculos;
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    bool bien = false;
     {
         DestinoVentanas destino(mEntorno);
-        if (mModelo.cmdAceptar_Click(destino) && destino.Ventana() != nullptr) {
+        bien = mModelo.cmdAceptar_Click(destino) && destino.Ventana() != nullptr;
+        if (bien) {
             destino.Ventana()->MostrarGrilla();
         }
     }
     QApplication::restoreOverrideCursor();
     --mCalculos;
+    // With no results window standing, the focus comes back to the control the model holds.
+    if (!bien) {
+        mFocoMostrado = {};
+    }
     Refrescar();
     if (mCerrarAlTerminar && mCalculos == 0) {
         mCerrarAlTerminar = false;

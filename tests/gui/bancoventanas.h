@@ -1,0 +1,84 @@
+#pragma once
+
+#include "core/app/contexto.h"
+#include "core/datafile/dialogosarchivo.h"
+#include "core/materials/tubos.h"
+#include "gui/app/mdikelvora.h"
+#include "gui/datafile/archivosventanas.h"
+#include "gui/entry/frmdatosentrada.h"
+#include "gui/thermal/frmresultados.h"
+#include "support/dobles.h"
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+namespace kelvora::prueba {
+
+/// Answers the Open and Save dialogs from a script (cancel once it is used up) and records
+/// how each was set up.
+class DialogosGuion : public DialogosArchivo {
+public:
+    std::optional<std::string> Abrir(const OpcionesDialogo& opciones) override;
+    std::optional<std::string> Guardar(const OpcionesDialogo& opciones) override;
+
+    std::deque<std::optional<std::string>> respuestas;
+    std::vector<OpcionesDialogo> pedidos;
+};
+
+/// The pipe rows of the database, each lookup taking a while: long enough for the events of a
+/// calculation to run in between.
+class TubosLentos : public FuenteTubos {
+public:
+    explicit TubosLentos(const std::string& cadenaConexion);
+    std::optional<FilaTubos> BuscarTubo(double nominal) override;
+
+    int esperaMs = 0;
+
+private:
+    std::unique_ptr<FuenteTubos> mTubos;
+};
+
+/// The frame with the program's calculation windows, the database beside the tests, and
+/// scripted boxes and dialogs. Its frame is shown and active.
+struct BancoVentanas {
+    BancoVentanas();
+
+    frmDatosEntrada* Nueva(int16_t tipo);
+    /// Reads an example of data/ejemplos into a new window.
+    frmDatosEntrada* Abrir(const char* ejemplo);
+    /// Presses "C&alcular" and gives the results window it left, or nullptr.
+    frmResultados* Calcular(frmDatosEntrada* ventana);
+    /// Lets closed windows go.
+    static void Esperar();
+
+    PrompterGuion prompter;
+    SettingsMemoria ajustes;
+    RelojFijo reloj{Fecha{2024, 3, 5}};
+    ContextoAplicacion contexto;
+    mdiKelvora marco{contexto, ajustes, reloj};
+    DialogosGuion* dialogos = nullptr;
+    TubosLentos* tubos = nullptr;
+    ArchivosVentanas* ventanas = nullptr;
+};
+
+/// The path of an example of data/ejemplos.
+std::string Ejemplo(const char* nombre);
+
+/// The results grid of a data file opened and calculated with the core alone, as the command
+/// line does it: no window, the same database.
+Grilla GrillaSinVentanas(const std::string& archivo);
+
+/// Controls of a window by name; a missing one stops the test program.
+QLineEdit* Caja(const QWidget* ventana, int i);
+QComboBox* Lista(const QWidget* ventana, int i);
+QPushButton* Boton(const QWidget* ventana, const char* nombre);
+
+/// What the window shows disagrees with its model: the first difference, or empty.
+QString Desacuerdo(const frmDatosEntrada& ventana);
+
+}  // namespace kelvora::prueba
