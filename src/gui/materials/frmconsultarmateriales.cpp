@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 #include <algorithm>
@@ -136,7 +137,12 @@ void frmConsultarMateriales::Ejecutar(void (ModeloConsultaMateriales::*comando)(
     Refrescar();
 }
 
+// A message box of the activation may hand the activation back when it closes.
 void frmConsultarMateriales::Activar() {
+    if (mActivando) {
+        return;
+    }
+    const QScopedValueRollback activando(mActivando, true);
     Ejecutar(&ModeloConsultaMateriales::Activar);
     mUi->MSFGResultados->setFocus(Qt::OtherFocusReason);
     focusNextChild();

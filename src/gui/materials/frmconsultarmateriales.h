@@ -52,6 +52,7 @@ private:
     std::unique_ptr<Ui::frmConsultarMateriales> mUi;
     /// The grid as last shown, so that an unchanged grid keeps the user's scroll.
     Grilla mMostrada;
+    bool mActivando = false;
 };
 
 }  // namespace kelvora
