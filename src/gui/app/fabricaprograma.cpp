@@ -1,14 +1,32 @@
 #include "gui/app/fabricaprograma.h"
 
+#include "gui/app/mdikelvora.h"
 #include "gui/datafile/archivosventanas.h"
 #include "gui/materials/ventanasmateriales.h"
 #include "gui/platform/texto.h"
 
 #include <QPrinterInfo>
+#include <QTimer>
 
 #include <functional>
+#include <memory>
 
 namespace kelvora {
+
+namespace {
+
+// The printer system takes milliseconds to load: the frame first shows, then asks for the
+// printer's name and brings its commands into line.
+std::function<std::string()> NombreImpresoraTrasArrancar(mdiKelvora& principal) {
+    auto arrancado = std::make_shared<bool>(false);
+    QTimer::singleShot(0, &principal, [&principal, arrancado] {
+        *arrancado = true;
+        principal.Actualizar();
+    });
+    return [arrancado] { return *arrancado ? S(QPrinterInfo::defaultPrinterName()) : ""; };
+}
+
+}  // namespace
 
 FabricaVentanas CrearFabrica(mdiKelvora& principal, ContextoAplicacion& contexto,
                              SettingsStore& ajustes, Prompter& prompter) {
@@ -18,7 +36,7 @@ FabricaVentanas CrearFabrica(mdiKelvora& principal, ContextoAplicacion& contexto
     fabrica.LeerArchivo = std::bind_front(&ArchivosVentanas::LeerArchivo, calculo);
     fabrica.GuardarVentana = std::bind_front(&ArchivosVentanas::GuardarVentana, calculo);
     fabrica.PreguntarGuardar = std::bind_front(&ArchivosVentanas::PreguntarGuardar, calculo);
-    fabrica.NombreImpresora = [] { return S(QPrinterInfo::defaultPrinterName()); };
+    fabrica.NombreImpresora = NombreImpresoraTrasArrancar(principal);
     auto* materiales = new VentanasMateriales(principal, contexto, prompter);
     fabrica.InsertarMaterial = std::bind_front(&VentanasMateriales::InsertarMaterial, materiales);
     fabrica.ConsultarMateriales =
