@@ -126,13 +126,18 @@ void QtSurfaceImagen::Reproducir(QPainter& pintor) const {
     }
 }
 
-bool QtSurfaceImagen::GuardarPng(const std::string& archivo) const {
+QImage QtSurfaceImagen::Imagen() const {
     QImage imagen(static_cast<int>(std::lround(Pixeles(mAnchoMm))),
                   static_cast<int>(std::lround(Pixeles(mAltoMm))), QImage::Format_ARGB32);
     {
         QPainter pintor(&imagen);
         Reproducir(pintor);
     }
+    return imagen;
+}
+
+bool QtSurfaceImagen::GuardarPng(const std::string& archivo) const {
+    const QImage imagen = Imagen();
     QSaveFile salida(Texto(archivo));
     return salida.open(QIODevice::WriteOnly) && imagen.save(&salida, "PNG") && salida.commit();
 }

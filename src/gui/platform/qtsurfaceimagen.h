@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+class QImage;
 class QPainter;
 
 namespace kelvora {
@@ -31,6 +32,8 @@ public:
     void NewPage() override;
     void SetDrawWidth(int ancho) override { mAnchoLinea = ancho; }
 
+    /// The picture as an image of its size in pixels.
+    QImage Imagen() const;
     /// Writes the picture; the file is replaced only when the whole picture was written.
     bool GuardarPng(const std::string& archivo) const;
     bool GuardarSvg(const std::string& archivo) const;
