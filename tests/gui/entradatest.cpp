@@ -126,13 +126,13 @@ void EntradaTest::ordenDeTabulacion() {
         const char* ejemplo;
         const char* orden;
     };
-    // Box i is "i", list i "Li", query button k "Ck"; Graficar is disabled and skipped.
+    // Box i is "i", list i "Li", query button k "Ck".
     // clang-format off
     const Caso casos[] = {
-        {"velmar80.adk",            "1 L1 2 L2 3 L3 4 L4 5 C1 6 7 C2 8 cmdAceptar cmdCancelar 1"},
-        {"nivara.adk",              "1 L1 2 L2 3 L3 4 L4 5 L5 6 C1 7 cmdAceptar cmdCancelar 1"},
-        {"tavelas-poliuretano.adk", "1 L1 2 L2 3 L3 4 L4 5 6 7 L7 8 C1 9 10 C2 11 cmdAceptar cmdCancelar 1"},
-        {"orbelas-poliuretano.adk", "1 L1 2 L2 3 L3 4 L4 5 6 7 L7 8 L8 9 C1 10 cmdAceptar cmdCancelar 1"},
+        {"velmar80.adk",            "1 L1 2 L2 3 L3 4 L4 5 C1 6 7 C2 8 cmdAceptar cmdCancelar cmdGraficar 1"},
+        {"nivara.adk",              "1 L1 2 L2 3 L3 4 L4 5 L5 6 C1 7 cmdAceptar cmdCancelar cmdGraficar 1"},
+        {"tavelas-poliuretano.adk", "1 L1 2 L2 3 L3 4 L4 5 6 7 L7 8 C1 9 10 C2 11 cmdAceptar cmdCancelar cmdGraficar 1"},
+        {"orbelas-poliuretano.adk", "1 L1 2 L2 3 L3 4 L4 5 6 7 L7 8 L8 9 C1 10 cmdAceptar cmdCancelar cmdGraficar 1"},
     };
     // clang-format on
     for (const Caso& caso : casos) {

@@ -1,6 +1,7 @@
 #include "gui/app/fabricaprograma.h"
 
 #include "gui/app/mdikelvora.h"
+#include "gui/charts/aperturagraficas.h"
 #include "gui/datafile/archivosventanas.h"
 #include "gui/materials/ventanasmateriales.h"
 #include "gui/platform/texto.h"
@@ -41,6 +42,8 @@ FabricaVentanas CrearFabrica(mdiKelvora& principal, ContextoAplicacion& contexto
     fabrica.InsertarMaterial = std::bind_front(&VentanasMateriales::InsertarMaterial, materiales);
     fabrica.ConsultarMateriales =
             std::bind_front(&VentanasMateriales::ConsultarMateriales, materiales);
+    auto* graficas = new AperturaGraficas(principal, contexto, prompter);
+    fabrica.Graficar = std::bind_front(&AperturaGraficas::Graficar, graficas);
     return fabrica;
 }
 

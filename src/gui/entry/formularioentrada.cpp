@@ -212,10 +212,7 @@ QLayout* Constructor::Botones() {
     fila->addStretch(1);
     mFormulario.cmdAceptar = Boton("cmdAceptar", "C&alcular", "Aceptar");
     mFormulario.cmdCancelar = Boton("cmdCancelar", "&Cancelar", "Cancelar");
-    // The chart window is not part of the program yet.
-    mFormulario.cmdGraficar =
-            Boton("cmdGraficar", "&Graficar", "Graficar (las gráficas aún no están disponibles)");
-    mFormulario.cmdGraficar->setEnabled(false);
+    mFormulario.cmdGraficar = Boton("cmdGraficar", "&Graficar", "Graficar");
     for (QPushButton* boton :
          {mFormulario.cmdAceptar, mFormulario.cmdCancelar, mFormulario.cmdGraficar}) {
         fila->addWidget(boton);

@@ -2,6 +2,8 @@
 
 #include "core/thermal/productos.h"
 #include "gui/app/ventanahija.h"
+#include "gui/charts/aperturagraficas.h"
+#include "gui/economics/analisiseconomico.h"
 #include "gui/entry/cajavalor.h"
 #include "gui/entry/destinoventanas.h"
 #include "gui/platform/texto.h"
@@ -103,6 +105,8 @@ void frmDatosEntrada::Conectar() {
     connect(mFormulario.cmdAceptar, &QPushButton::clicked, this,
             &frmDatosEntrada::cmdAceptar_Click);
     connect(mFormulario.cmdCancelar, &QPushButton::clicked, this, &QWidget::close);
+    connect(mFormulario.cmdGraficar, &QPushButton::clicked, this,
+            [this] { MostrarMenuGraficar(*mFormulario.cmdGraficar); });
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, mFormulario.cmdCancelar, &QPushButton::click);
@@ -163,6 +167,7 @@ void frmDatosEntrada::cmdAceptar_Click() {
         bien = mModelo.cmdAceptar_Click(destino) && destino.Ventana() != nullptr;
         if (bien) {
             destino.Ventana()->MostrarGrilla();
+            ConectarAnalisisEconomico(*destino.Ventana(), mEntorno);
         }
     }
     QApplication::restoreOverrideCursor();
@@ -228,6 +233,7 @@ void frmDatosEntrada::RefrescarCaja(int i) {
 
 void frmDatosEntrada::RefrescarBotones() {
     mFormulario.cmdAceptar->setEnabled(mModelo.cmdAceptarEnabled());
+    mFormulario.cmdGraficar->setEnabled(mModelo.cmdGraficarEnabled());
     for (size_t k = 1; k < mFormulario.cmdConsultarMaterial.size(); ++k) {
         const BotonConsultar& boton = mModelo.cmdConsultarMaterial(static_cast<int>(k));
         mFormulario.cmdConsultarMaterial[k]->setText(Q(boton.Caption));

@@ -75,8 +75,8 @@ void frmResultados::CrearControles() {
     columna->addLayout(botones);
 }
 
-// The report, help and economic windows are not part of the program yet: their buttons stand
-// disabled.
+// The report and help windows are not part of the program yet: their buttons stand disabled.
+// The economic window enables its button once a result stands.
 QPushButton* frmResultados::Boton(const char* nombre, const char* caption, const char* toolTip) {
     auto* boton = new QPushButton(QString::fromUtf8(caption), this);
     boton->setObjectName(QString::fromLatin1(nombre));
