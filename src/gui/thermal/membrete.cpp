@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPixmapCache>
 #include <QVBoxLayout>
 
 namespace kelvora {
@@ -14,13 +15,24 @@ namespace {
 constexpr int kLadoLogo = 40;
 constexpr int kLineas = 3;
 
+// Drawing the logo from its picture costs more than the rest of the strip: it is drawn once.
+QPixmap Logo() {
+    const QString clave = QStringLiteral("kelvora-membrete");
+    QPixmap logo;
+    if (!QPixmapCache::find(clave, &logo)) {
+        logo = Logotipo(kLadoLogo);
+        QPixmapCache::insert(clave, logo);
+    }
+    return logo;
+}
+
 }  // namespace
 
 Membrete::Membrete(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("picInfoComercial"));
     auto* logo = new QLabel(this);
     logo->setObjectName(QStringLiteral("picLogo"));
-    logo->setPixmap(Logotipo(kLadoLogo));
+    logo->setPixmap(Logo());
     auto* lineas = new QVBoxLayout;
     lineas->setSpacing(0);
     for (int i = 0; i < kLineas; ++i) {

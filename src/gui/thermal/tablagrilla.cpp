@@ -65,6 +65,7 @@ void CombinarFila(QTableWidget& tabla, const Grilla& grilla, int fila) {
 }  // namespace
 
 void MostrarGrilla(QTableWidget& tabla, const Grilla& grilla, const TablaColores& colores) {
+    tabla.setUpdatesEnabled(false);
     tabla.clearSpans();
     tabla.setColumnCount(grilla.Cols());
     tabla.setRowCount(grilla.Rows());
@@ -78,6 +79,7 @@ void MostrarGrilla(QTableWidget& tabla, const Grilla& grilla, const TablaColores
         }
         tabla.setRowHeight(fila, static_cast<int>(alto * grilla.RowHeight(fila)));
     }
+    tabla.setUpdatesEnabled(true);
 }
 
 void AjustarColumnas(QTableWidget& tabla, const std::vector<double>& proporciones) {
