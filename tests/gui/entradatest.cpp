@@ -12,6 +12,8 @@
 #include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -31,6 +33,7 @@ class EntradaTest : public QObject {
 
 private slots:
     void controlesDeLasCuatroVentanas();
+    void comandosDeProductoDelMenu();
     void ordenDeTabulacion();
     void filtroDeTeclas();
     void enterAvanzaYElEstadoSigueALasCajas();
@@ -119,6 +122,48 @@ void EntradaTest::controlesDeLasCuatroVentanas() {
                  QString::fromUtf8(caso.caption)
                          .replace(QStringLiteral("[1]"), QStringLiteral("[2]")));
     }
+}
+
+void EntradaTest::comandosDeProductoDelMenu() {
+    struct Caso {
+        const char* accion;
+        int16_t tipo;
+        const char* ventana;
+    };
+    // clang-format off
+    const Caso casos[] = {
+        {"mnuATCAOPCEVelmar80",           1,  "frmDatosEntradaSuperficiesPlanas"},
+        {"mnuATCAOPCEVelmar140",          3,  "frmDatosEntradaSuperficiesPlanas"},
+        {"mnuATCAOPCELorvan",             7,  "frmDatosEntradaSuperficiesPlanas"},
+        {"mnuATCAOPCTNivara",             8,  "frmDatosEntradaSuperficiesCilindricas"},
+        {"mnuATCAOPCTOrbelas",            12, "frmDatosEntradaSuperficiesCilindricas"},
+        {"mnuATCAOGCEPoliUretano",        13, "frmDatosEntradaSuperficiesPlanasFrio"},
+        {"mnuATCAOGCTOrbelasPreformadas", 14, "frmDatosEntradaSuperficiesCilindricasFrio"},
+    };
+    // clang-format on
+    BancoVentanas b;
+    for (const Caso& caso : casos) {
+        QAction* accion = Accion(b, caso.accion);
+        QVERIFY(accion->isEnabled());
+        accion->trigger();
+        auto* v = qobject_cast<frmDatosEntrada*>(b.marco.VentanaActiva());
+        QVERIFY2(v != nullptr, caso.accion);
+        QCOMPARE(v->objectName(), QString::fromLatin1(caso.ventana));
+        QCOMPARE(v->TipoAnalisis(), caso.tipo);
+        QCOMPARE(v->findChild<QLabel*>(QStringLiteral("lblProducto"))->text(),
+                 Q(NombreProducto(caso.tipo, false)));
+    }
+    QCOMPARE(b.marco.VentanaActiva()->windowTitle(),
+             QStringLiteral("Cálculo de Espesor Óptimo - Ganancia de Calor - Tuberías [1]"));
+    // Escape is "&Cancelar": the window closes, and the number is free again.
+    QTest::mouseClick(Caja(b.marco.VentanaActiva(), 1), Qt::LeftButton);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    b.Esperar();
+    QCOMPARE(b.marco.VentanasHijas().size(), 6);
+    Accion(b, "mnuATCAOGCTOrbelasPreformadas")->trigger();
+    QVERIFY(b.marco.VentanaActiva()->windowTitle().endsWith(QStringLiteral("[1]")));
+    Accion(b, "mnuATCAOPCEKandor")->trigger();
+    QVERIFY(b.marco.VentanaActiva()->windowTitle().endsWith(QStringLiteral("[4]")));
 }
 
 void EntradaTest::ordenDeTabulacion() {
@@ -392,7 +437,13 @@ void EntradaTest::emisividadEscrita() {
     frmDatosEntrada* v = b.Abrir("velmar80.adk");
     QPushButton* consultar = Boton(v, "cmdConsultarMaterial_2");
     QCOMPARE(consultar->text(), QStringLiteral("C&onsultar"));
+    frmDatosEntrada* otra = b.Abrir("nivara.adk");
     Accion(b, "mnuArchivoOpcionesLeerEmisividadBD")->trigger();
+    // The option reaches the active window at once, the other one when it is activated.
+    QCOMPARE(Boton(otra, "cmdConsultarMaterial_1")->text(), QStringLiteral("&Leer"));
+    QCOMPARE(consultar->text(), QStringLiteral("C&onsultar"));
+    b.marco.findChild<QMdiArea*>()->setActiveSubWindow(
+            qobject_cast<QMdiSubWindow*>(v->parentWidget()));
     QCOMPARE(consultar->text(), QStringLiteral("&Leer"));
     QCOMPARE(consultar->toolTip(), QStringLiteral("Leer Emisividad"));
     b.prompter.entradas = {"abc", "1.5", " 0.5 "};
