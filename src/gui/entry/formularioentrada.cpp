@@ -1,6 +1,5 @@
 #include "gui/entry/formularioentrada.h"
 
-#include "core/units/unidades.h"
 #include "gui/entry/cajavalor.h"
 #include "gui/platform/texto.h"
 #include "gui/thermal/fuentefija.h"
