@@ -6,6 +6,8 @@
 #include "gui/charts/frmgraficas.h"
 #include "gui/entry/frmdatosentrada.h"
 
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 
 namespace kelvora {
@@ -38,7 +40,14 @@ void AperturaGraficas::Graficar(QWidget* ventana, int tipo) {
     grafica->Graficar();
 }
 
+// The menu charts the active window: the button's window becomes it first.
 void MostrarMenuGraficar(QWidget& boton) {
+    for (QWidget* padre = boton.parentWidget(); padre != nullptr; padre = padre->parentWidget()) {
+        if (auto* marco = qobject_cast<QMdiSubWindow*>(padre)) {
+            marco->mdiArea()->setActiveSubWindow(marco);
+            break;
+        }
+    }
     if (auto* menu = boton.window()->findChild<QMenu*>(QStringLiteral("mnuATGraficar"))) {
         menu->popup(boton.mapToGlobal(QPoint(0, boton.height())));
     }

@@ -50,8 +50,8 @@ Qt::Alignment AlineacionFormato(QChar marca) {
                                      : Qt::AlignLeft | Qt::AlignVCenter;
 }
 
-// A grid's header format: one column per "|", each text after its alignment mark ("<", "^",
-// ">").
+// A grid's header format: one column per "|", each text after the alignment mark ("<", "^",
+// ">") of its heading and of its cells.
 void AplicarFormato(QTableWidget& tabla, const std::string& formato) {
     const QStringList columnas = Q(formato).split(QLatin1Char('|'));
     for (int c = 0; c < columnas.size() && c < tabla.columnCount(); ++c) {
@@ -64,6 +64,9 @@ void AplicarFormato(QTableWidget& tabla, const std::string& formato) {
         auto* celda = new QTableWidgetItem(texto.trimmed());
         celda->setTextAlignment(alineacion);
         tabla.setHorizontalHeaderItem(c, celda);
+        for (int fila = 0; fila < tabla.rowCount(); ++fila) {
+            tabla.item(fila, c)->setTextAlignment(alineacion);
+        }
     }
 }
 

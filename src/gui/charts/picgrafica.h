@@ -20,6 +20,8 @@ public:
     double AltoMm() const;
 
     void PonerImagen(const QImage& imagen);
+    /// The drawing shown when there is no sentence.
+    const QImage& Imagen() const { return mImagen; }
     /// A sentence instead of a drawing; empty to show the drawing again.
     void PonerMensaje(const QString& mensaje);
     const QString& Mensaje() const { return mMensaje; }

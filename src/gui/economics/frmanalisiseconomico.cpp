@@ -72,6 +72,13 @@ frmAnalisisEconomico::frmAnalisisEconomico(TipoEconomico tipo, ContextoAplicacio
     Refrescar();
 }
 
+frmAnalisisEconomico::~frmAnalisisEconomico() {
+    for (QObject* control : findChildren<QObject*>()) {
+        control->removeEventFilter(this);
+        disconnect(control, nullptr, this, nullptr);
+    }
+}
+
 void frmAnalisisEconomico::Conectar() {
     for (const auto& [indice, caja] : mFormulario.txtValor) {
         const int i = indice;

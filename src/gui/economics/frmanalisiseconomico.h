@@ -24,6 +24,8 @@ class frmAnalisisEconomico : public QWidget, public VentanaArchivo {
 public:
     frmAnalisisEconomico(TipoEconomico tipo, ContextoAplicacion& contexto, Prompter& prompter,
                          std::unique_ptr<Clock> reloj, QWidget* padre = nullptr);
+    /// Leaves its controls deaf: hiding them as they go must not reach the model, gone first.
+    ~frmAnalisisEconomico() override;
 
     ModeloEconomico& Modelo() { return mModelo; }
     const ModeloEconomico& Modelo() const { return mModelo; }
