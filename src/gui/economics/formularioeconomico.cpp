@@ -5,6 +5,7 @@
 #include "gui/thermal/fuentefija.h"
 
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -24,6 +25,11 @@ constexpr int kColCaja = 1;
 constexpr int kColLista = 2;
 // Characters of the widest amount or name a box shows whole.
 constexpr int kAnchoCaja = 16;
+
+// The width of a box: its widest text in the boxes' fixed-pitch font, and the frame.
+int AnchoCaja() {
+    return QFontMetrics(FuenteFija(10)).horizontalAdvance(QLatin1Char('0')) * kAnchoCaja + 10;
+}
 
 QString Nombre(const char* prefijo, int indice) {
     return QStringLiteral("%1_%2").arg(QLatin1String(prefijo)).arg(indice);
@@ -136,6 +142,7 @@ bool Constructor::TieneLista(int indice) const {
 void Constructor::FilaLista(QGridLayout& rejilla, int fila, int etiqueta, QComboBox* lista) {
     QLabel* rotulo = Etiqueta(etiqueta);
     rotulo->setBuddy(lista);
+    lista->setFixedWidth(AnchoCaja());
     rejilla.addWidget(rotulo, fila, kColEtiqueta);
     rejilla.addWidget(lista, fila, kColCaja);
     Ordenar(lista);
@@ -151,7 +158,7 @@ QLabel* Constructor::Etiqueta(int indice) {
 CajaValor* Constructor::Caja(int indice) {
     auto* caja = new CajaValor(indice, &mVentana);
     caja->setFont(FuenteFija(10));
-    caja->setFixedWidth(caja->fontMetrics().horizontalAdvance(QLatin1Char('0')) * kAnchoCaja + 10);
+    caja->setFixedWidth(AnchoCaja());
     mFormulario.lblEtiqueta.at(indice)->setBuddy(caja);
     mFormulario.txtValor[indice] = caja;
     return caja;
@@ -166,7 +173,7 @@ QLineEdit* Constructor::CajaResultado(int indice) {
     fuente.setBold(true);
     caja->setFont(fuente);
     caja->setAlignment(Qt::AlignRight);
-    caja->setFixedWidth(caja->fontMetrics().horizontalAdvance(QLatin1Char('0')) * kAnchoCaja + 10);
+    caja->setFixedWidth(AnchoCaja());
     QPalette paleta = caja->palette();
     paleta.setColor(QPalette::Base, kFondoResultado);
     paleta.setColor(QPalette::Text, kTextoResultado);
