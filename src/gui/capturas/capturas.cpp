@@ -4,7 +4,9 @@
 #include "gui/app/frmaboutbox.h"
 #include "gui/app/frmsplash.h"
 #include "gui/app/mdikelvora.h"
+#include "gui/charts/capturasgraficas.h"
 #include "gui/datafile/capturasejemplos.h"
+#include "gui/economics/capturaseconomico.h"
 #include "gui/materials/capturasmateriales.h"
 
 #include <QMenu>
@@ -61,6 +63,9 @@ const std::vector<Captura>& Capturas() {
         {"frmresultadossuperficiescilindricas",      MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/nivara.adk", true)},
         {"frmresultadossuperficiesplanasfrio",       MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/tavelas-poliuretano.adk", true)},
         {"frmresultadossuperficiescilindricasfrio",  MarcoCapturas<EntornoCaptura>, AbrirEjemplo("data/ejemplos/orbelas-poliuretano.adk", true)},
+        {"frmanalisiseconomicosuperficiesplanas",    MarcoCapturas<EntornoCaptura>, AnalisisEconomicoEjemplo("data/ejemplos/velmar80.adk")},
+        {"frmgraficas-grafica",                      MarcoCapturas<EntornoCaptura>, GraficaEjemplo("data/ejemplos/velmar80.adk", 1, 0)},
+        {"frmgraficas-tabla",                        MarcoCapturas<EntornoCaptura>, GraficaEjemplo("data/ejemplos/velmar80.adk", 1, 1)},
         {"frmconsultarmateriales",                   MarcoCapturas<EntornoCaptura>, AbrirConsultaMaterialesCaptura()},
         {"frminsertarmaterial",                      InsertarMaterialCaptura<EntornoCaptura>, {}},
     };
