@@ -16,11 +16,12 @@ namespace kelvora {
 
 namespace {
 
-// The printer system takes milliseconds to load: the frame first shows, then asks for the
-// printer's name and brings its commands into line.
+// The printer system takes milliseconds to load: the frame first shows, then, a moment later,
+// asks for the printer's name and brings its commands into line.
 std::function<std::string()> NombreImpresoraTrasArrancar(mdiKelvora& principal) {
+    constexpr int kEsperaMs = 250;
     auto arrancado = std::make_shared<bool>(false);
-    QTimer::singleShot(0, &principal, [&principal, arrancado] {
+    QTimer::singleShot(kEsperaMs, &principal, [&principal, arrancado] {
         *arrancado = true;
         principal.Actualizar();
     });
