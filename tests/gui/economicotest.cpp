@@ -146,7 +146,6 @@ void EconomicoTest::controlesDeLasDosVentanas() {
             auto* etiqueta =
                     v.findChild<QLabel*>(QStringLiteral("lblEtiqueta_%1").arg(caja.indice));
             QCOMPARE(etiqueta->buddy(), Caja(&v, caja.indice));
-            QCOMPARE(Caja(&v, caja.indice)->toolTip(), QString::fromUtf8(caja.toolTip));
         }
         for (const CajaEconomica& caja : d.dimensiones) {
             auto* lista = v.findChild<QComboBox*>(QStringLiteral("cboUnidad_%1").arg(caja.indice));
@@ -164,8 +163,6 @@ void EconomicoTest::controlesDeLasDosVentanas() {
             QVERIFY(!Caja(&v, caja.indice)->isEnabled());
         }
         QVERIFY(!Boton(&v, "cmdAceptar")->isEnabled());
-        QCOMPARE(Boton(&v, "cmdAceptar")->text(), QStringLiteral("C&alcular"));
-        QCOMPARE(Boton(&v, "cmdCancelar")->text(), QStringLiteral("&Cancelar"));
         QCOMPARE(TagDe(&v), QStringLiteral("0"));
     }
 }

@@ -182,10 +182,6 @@ void GraficasTest::redibujaAlCambiarDeTamanoSinRecalcular() {
         QVERIFY(PixelesDeCurva(pic->Imagen()) > 100);
         QCOMPARE(g->PasadasSerie(), pasadas);
     }
-    // A new request of the other kind computes a new series.
-    g->setTipoGrafica(2, *qobject_cast<frmDatosEntrada*>(b.marco.VentanasHijas().front()));
-    QVERIFY(g->Graficar());
-    QVERIFY(g->PasadasSerie() > 2 * pasadas - 10);
 }
 
 void GraficasTest::unaSerieALaVezYCerrarLaDetiene() {
