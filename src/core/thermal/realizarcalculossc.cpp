@@ -63,6 +63,7 @@ private:
     double EspesorPractico(Tramo& tramo);
     void ResultadosPracticos(Tramo& tramo, double T);
     void DesnudaPorArea(double C0, BloqueCalculo& b, double& Qrd, double& Qdc) const;
+    static double Eficiencia(const BloqueCalculo& b);
     void IdealPorPie(Tramo& tramo, double QrdVertical);
     void PracticoPorPie(Tramo& tramo);
     void Mostrar();
@@ -144,11 +145,14 @@ void CalculoSC::Ideal(Tramo& tramo) {
     const Biseccion biseccion =
             BiseccionSuperficie(mFlujoRequerido, C, pelicula, mEs, mTS, mVentana.Bomba());
     tramo.idealConvergio = biseccion.convergio;
+    BloqueCalculo& b = tramo.ideal;
     if (!biseccion.convergio) {
+        // The bare pipe does not depend on the surface temperature, so it stands when the
+        // bisection gives up; only what needs T (Ef through Qt) stays 0.
+        DesnudaPorArea(tramo.C0, b, tramo.Qrd, tramo.Qdc);
         return;
     }
     const double T = biseccion.valor;
-    BloqueCalculo& b = tramo.ideal;
     b.TS = T;
     b.Qr = pelicula.Qrad(T, mEs);
     b.Qc = pelicula.Qconv(T, C);
@@ -159,17 +163,21 @@ void CalculoSC::Ideal(Tramo& tramo) {
     tramo.Eq = Dividir(conduccion, b.Qt);
     b.f = Dividir(conduccion, Comprobar(Comprobar(T - mTA) * tramo.Eq));
     DesnudaPorArea(tramo.C0, b, tramo.Qrd, tramo.Qdc);
+    b.Ef = Eficiencia(b);
     const double r2 = BiseccionRadio(tramo.Eq, mR1, mVentana.Bomba());
     b.E = Comprobar(r2 - mR1);
 }
 
-// Bare pipe with emissivity 1 and the coefficient of the pipe's own diameter D; Ef compares
-// with the block's own Qt.
+// Bare pipe with emissivity 1 and the coefficient of the pipe's own diameter D.
 void CalculoSC::DesnudaPorArea(double C0, BloqueCalculo& b, double& Qrd, double& Qdc) const {
     Qrd = mPelicula->Qrad(mTI, 1);
     Qdc = mPelicula->Qconv(mTI, CoeficienteTuberia(C0, mD));
     b.Qdt = Comprobar(Qrd + Qdc);
-    b.Ef = Comprobar(Dividir(Comprobar(b.Qdt - b.Qt), b.Qdt) * 100);
+}
+
+// Unlike the flat calculation, Ef compares with the block's own Qt.
+double CalculoSC::Eficiencia(const BloqueCalculo& b) {
+    return Comprobar(Dividir(Comprobar(b.Qdt - b.Qt), b.Qdt) * 100);
 }
 
 // The target flux of the practical step takes k and f of the ideal one.
@@ -225,6 +233,7 @@ void CalculoSC::ResultadosPracticos(Tramo& tramo, double T) {
     const double Eq = Dividir(conduccion, b.Qt);
     b.f = Dividir(conduccion, Comprobar(Comprobar(T - mTA) * Eq));
     DesnudaPorArea(tramo.C0, b, tramo.QrdPractico, tramo.QdcPractico);
+    b.Ef = Eficiencia(b);
 }
 
 void CalculoSC::IdealPorPie(Tramo& tramo, double QrdVertical) {

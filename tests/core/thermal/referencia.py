@@ -187,6 +187,10 @@ def sc(tipo, TI, TS, TA, V, nominal, codigo, Es):
         C = C0 * (1 / state['De']) ** 0.2
         ok, T = bis_sup(FR, C, Es, TS, TA, fv, bomba)
         if not ok:
+            # The bare pipe needs no surface temperature: it stands when the bisection gives up.
+            t['Qrd'] = 0.174 * (((TI + ABS) / 100) ** 4 - ((TA + ABS) / 100) ** 4)
+            t['Qdc'] = qconv0(TI, C0 * (1 / D) ** 0.2, TA) * fv
+            t['Qdt'] = t['Qrd'] + t['Qdc']
             return t
         t['ok'] = True
         t['TS'] = T
