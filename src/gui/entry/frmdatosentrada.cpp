@@ -27,7 +27,6 @@ namespace kelvora {
 namespace {
 
 constexpr int kEnter = 13;
-constexpr const char* kCaptionConsultar = "C&onsultar";
 
 bool EsEnter(const QKeyEvent& tecla) {
     return tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
