@@ -177,7 +177,7 @@ def calcular_sp(a, tipo):
                          bi["Qr"], bi["Qc"], bi["Qt"], bi["Qdt"], bi["Ef"])
         slots += _bloque(ti, bp["T"], ta, v, codigo, es, ed, bp["TM"], bp["k"], bp["f"], ep,
                          bp["Qr"], bp["Qc"], bp["Qt"], bp["Qdt"], bp["Ef"])
-    return slots
+    return slots, {}
 
 
 def _fila_tubo(bd, nominal):
@@ -237,9 +237,10 @@ def calcular_sc(a, tipo, bd):
             bi["k"] = conductividad(tipo, bi["TM"])
             eq = dividir(comprobar((ti - t) * bi["k"]), bi["Qt"])
             bi["f"] = dividir(comprobar((ti - t) * bi["k"]), comprobar((t - ta) * eq))
-        qrd = _qrd_caliente(ti, ta)
         cd = comprobar(c0 * potencia(dividir(1, d), 0.2))
-        bi["Qdt"] = comprobar(qrd + p.qconv(ti, cd))
+        bi["Qrd"] = _qrd_caliente(ti, ta)
+        bi["Qdc"] = p.qconv(ti, cd)
+        bi["Qdt"] = comprobar(bi["Qrd"] + bi["Qdc"])
         if t is not None:
             bi["Ef"] = comprobar(dividir(bi["Qdt"] - bi["Qt"], bi["Qdt"]) * 100)
             r2 = biseccion_radio(r1, eq)
@@ -262,7 +263,21 @@ def calcular_sc(a, tipo, bd):
         for b in (bi, bp):
             slots += _bloque(ti, b["T"], ta, v, nominal, codigo, es, b["TM"], b["k"], b["f"], b["E"],
                              b["Qr"], b["Qc"], b["Qt"], b["Qdt"], b["Ef"])
-    return slots
+    vertical = bloques[0][0]["Qrd"]
+    for bi, _ in bloques:
+        bi["Qrd"] = vertical
+    return slots, _desnudas_por_pie(bloques, pi, d)
+
+
+def _desnudas_por_pie(bloques, pi, d):
+    """The public values of a pipe window: D and the bare flows per foot of each block."""
+    publicos = {"DM": d}
+    for n, (bi, bp) in enumerate(bloques, start=1):
+        publicos["QDRL%d" % n] = comprobar(bi.get("Qrd", 0.0) * pi * d / 12)
+        publicos["QDCL%d" % n] = comprobar(bi.get("Qdc", 0.0) * pi * d / 12)
+        publicos["QDRDL%d" % n] = comprobar(bp.get("Qrd", 0.0) * pi * d / 12)
+        publicos["QDCDL%d" % n] = comprobar(bp.get("Qdc", 0.0) * pi * d / 12)
+    return publicos
 
 
 def _practico_sc(p, tipo, fila, nominal, ti, ta, ts, es, c0, d, de, dint, r1, bi, bp):
@@ -297,8 +312,9 @@ def _practico_sc(p, tipo, fila, nominal, ti, ta, ts, es, c0, d, de, dint, r1, bi
         bp["k"] = conductividad(tipo, bp["TM"])
         eq2 = dividir(comprobar((ti - t2) * bp["k"]), bp["Qt"])
         bp["f"] = dividir(comprobar((ti - t2) * bp["k"]), comprobar((t2 - ta) * eq2))
-        qrd = _qrd_caliente(ti, ta)
-        bp["Qdt"] = comprobar(qrd + p.qconv(ti, cd))
+        bp["Qrd"] = _qrd_caliente(ti, ta)
+        bp["Qdc"] = p.qconv(ti, cd)
+        bp["Qdt"] = comprobar(bp["Qrd"] + bp["Qdc"])
         bp["Ef"] = comprobar(dividir(bp["Qdt"] - bp["Qt"], bp["Qdt"]) * 100)
     return de
 
@@ -358,7 +374,7 @@ def calcular_spfrio(a):
         for b in (bi, bp):
             slots += _bloque(ti, b["T"], ta, v, codigo, es, ed, b["TM"], k, b["f"], b["E"],
                              b["Qr"], b["Qc"], b["Qt"], b["Qdt"], b["Ef"])
-    return slots
+    return slots, {}
 
 
 class SeccionNoPrevista(Exception):
@@ -376,6 +392,7 @@ def calcular_scfrio(a, bd):
     p = Peliculas(ta, fv, frio=True)
     pi = 3.1416
     slots = []
+    bloques = []
     codigo = float(a["codigo"])
     t = ts
     for c0 in [1.235, 1.016]:
@@ -390,7 +407,9 @@ def calcular_scfrio(a, bd):
         eq = dividir(comprobar((t - ti) * k), bi["Qt"])
         bi["f"] = dividir(comprobar((t - ti) * k), comprobar((ta - t) * eq))
         qrd = _qrd_frio(ti, ta)
-        bi["Qdt"] = comprobar(qrd + p.qconv(ti, cd))
+        bi["Qrd"] = bp["Qrd"] = qrd
+        bi["Qdc"] = bp["Qdc"] = p.qconv(ti, cd)
+        bi["Qdt"] = comprobar(qrd + bi["Qdc"])
         bi["Ef"] = comprobar(dividir(bi["Qdt"] - bi["Qt"], bi["Qdt"]) * 100)
         r2 = biseccion_radio(r1, eq, abandono=False)
         bi["E"] = r2 - r1
@@ -412,6 +431,7 @@ def calcular_scfrio(a, bd):
         bp["f"] = dividir(comprobar((t2 - ti) * k), comprobar((ta - t2) * eq2))
         bp["Qdt"] = comprobar(qrd + p.qconv(ti, cd))
         bp["Ef"] = comprobar(dividir(bp["Qdt"] - bp["Qt"], bp["Qdt"]) * 100)
+        bloques.append((bi, bp))
         for b in (bi, bp):
             for clave in ("Qr", "Qc", "Qt"):
                 b[clave] = comprobar(b[clave] * pi * de / 12)
@@ -419,7 +439,7 @@ def calcular_scfrio(a, bd):
             slots += _bloque(ti, b["T"], ta, v, nominal, codigo, es, b["TM"], k, b["f"], b["E"],
                              b["Qr"], b["Qc"], b["Qt"], b["Qdt"], b["Ef"])
         t = t2
-    return slots
+    return slots, _desnudas_por_pie(bloques, pi, d)
 
 
 def _qrd_frio(ti, ta):

@@ -55,8 +55,18 @@ def diferencias(programa, referencia, con_valores):
     for i, (a, b) in enumerate(zip(tp, tr)):
         if a != b:
             salida.append("fila %d: %s / %s" % (i, a, b))
-    if con_valores and programa.get("valores") != referencia.get("valores"):
-        salida.append("valores: %s / %s" % (programa.get("valores"), referencia.get("valores")))
+    if con_valores:
+        salida += _valores(programa["valores"], referencia["valores"])
+    return salida
+
+
+def _valores(programa, referencia):
+    salida = []
+    for clave in sorted(set(programa) | set(referencia)):
+        a, b = programa.get(clave), referencia.get(clave)
+        numeros = all(isinstance(x, (int, float)) and not isinstance(x, bool) for x in (a, b))
+        if (numeros and distintos(a, b)) or (not numeros and a != b):
+            salida.append("valor %s: %r / %r" % (clave, a, b))
     return salida
 
 

@@ -10,13 +10,14 @@ from calculos import SeccionNoPrevista, calcular_sc, calcular_scfrio, calcular_s
 from datos import BaseDatos
 from lector import Lector, validar_variables
 from resultados import mostrar_resultados
+from unidades import convertir
 from ventanas import ventana_de_tipo
 from vb import ErrorVB
 
 TEXTO_SECCION = "Orbelas de mas de 4 plg de espesor, no prevista en este programa"
 
 
-def _salida(archivo, mensajes, tipo=0, ventana=None, slots=None, tabla=None):
+def _salida(archivo, mensajes, tipo=0, ventana=None, slots=None, tabla=None, valores=None):
     return {
         "archivo": archivo,
         "tipo": tipo,
@@ -24,7 +25,7 @@ def _salida(archivo, mensajes, tipo=0, ventana=None, slots=None, tabla=None):
         "ok": slots is not None,
         "mensajes": [{"texto": t, "icono": i, "botones": b} for t, i, b in mensajes],
         "resultados": slots or [],
-        "valores": {},
+        "valores": valores or {},
         "tabla": tabla or [],
     }
 
@@ -58,15 +59,34 @@ def calcular_archivo(archivo, bd):
         return _salida(archivo, mensajes, tipo, nombre)
     argumentos = entrada.argumentos()
     try:
-        slots = _calcular(nombre, tipo, argumentos, bd)
+        slots, publicos = _calcular(nombre, tipo, argumentos, bd)
         tabla = mostrar_resultados(nombre, tipo, slots, argumentos["unidades"])
+        valores = _valores(nombre, entrada, argumentos, publicos)
     except ErrorVB as error:
         mensajes.append(("Error inesperado: " + error.descripcion, "exclamacion", "Aceptar"))
         return _salida(archivo, mensajes, tipo, nombre)
     except SeccionNoPrevista:
         mensajes.append((TEXTO_SECCION, "exclamacion", "Aceptar"))
         return _salida(archivo, mensajes, tipo, nombre)
-    return _salida(archivo, mensajes, tipo, nombre, slots, tabla)
+    return _salida(archivo, mensajes, tipo, nombre, slots, tabla, valores)
+
+
+def _valores(ventana, entrada, a, publicos):
+    """The public values of the results window."""
+    unidades = a["unidades"]
+    valores = {"MaterialSA": entrada.nombre(0)}
+    if ventana in ("SP", "SPFrio"):
+        valores["MaterialSD"] = entrada.nombre(1)
+    valores["unitTS"] = unidades[1]
+    valores["TS"] = convertir("°F", unidades[1], a["TS"])
+    if ventana in ("SPFrio", "SCFrio"):
+        valores.update({
+            "unitTPR": unidades[4], "TPR": convertir("°F", unidades[4], a["TPR"]),
+            "hayTBH": a["hayTBH"], "unitTBH": unidades[3],
+            "TBH": convertir("°F", unidades[3], a["TBH"]), "hayHR": a["hayHR"], "HR": a["HR"],
+        })
+    valores.update(publicos)
+    return valores
 
 
 def main():

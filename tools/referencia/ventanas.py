@@ -26,6 +26,7 @@ class VentanaEntrada:
         self.bd_disponible = bd_disponible
         self.leer_emisividad_bd = leer_emisividad_bd
         self.cajas = {i: "" for i in self.CAJAS}
+        self.nombres = {}
         for codigo, emisividad, _, _ in self.MATERIALES:
             self.cajas[codigo] = ""
             self.cajas[emisividad] = ""
@@ -54,17 +55,28 @@ class VentanaEntrada:
         if val(texto) == 0 and self.leer_emisividad_bd:
             self.cajas[emisividad] = ""
         if es_numerico(texto) and val(texto) != 0 and self.bd_disponible:
-            self._leer_material(texto, emisividad)
+            # The code becomes a 32-bit integer at the call: an overflow there ends the step,
+            # with the box and the name as they were.
+            try:
+                entero = clng(val(texto))
+            except ErrorVB:
+                return
+            self.nombres[codigo] = self._leer_material(entero, emisividad)
+        else:
+            self.nombres[codigo] = ""
 
-    def _leer_material(self, texto, emisividad):
-        try:
-            fila = self.bd.material(clng(val(texto)))
-        except ErrorVB:
-            return
+    def _leer_material(self, codigo, emisividad):
+        """LeerMaterial: the emissivity into its box; the description, or what went wrong."""
+        fila = self.bd.material(codigo)
         if fila is None:
             self.cajas[emisividad] = ""
-        else:
-            self.cajas[emisividad] = normalizar_decimal(texto_numero(fila[0]))
+            return "No existe un material con código %d" % codigo
+        self.cajas[emisividad] = normalizar_decimal(texto_numero(fila[0]))
+        return trim(fila[1]).upper()
+
+    def nombre(self, indice):
+        codigo = self.MATERIALES[indice][0]
+        return self.nombres.get(codigo, "")
 
     def completa(self):
         for i, texto in self.cajas.items():
