@@ -65,10 +65,12 @@ frmGraficas* PedirGrafica(BancoVentanas& b, frmDatosEntrada* datos, int tipo) {
 void MientrasGrafica(BancoVentanas& b, const std::function<void(frmGraficas*)>& hacer) {
     auto* reloj = new QTimer(&b.marco);
     QObject::connect(reloj, &QTimer::timeout, [&b, reloj, hacer] {
-        auto* g = qobject_cast<frmGraficas*>(b.marco.VentanaActiva());
-        if (g != nullptr && g->Modelo().Ocupado()) {
-            reloj->stop();
-            hacer(g);
+        for (frmGraficas* g : b.marco.findChildren<frmGraficas*>()) {
+            if (g->Modelo().Ocupado()) {
+                reloj->stop();
+                hacer(g);
+                return;
+            }
         }
     });
     reloj->start(0);

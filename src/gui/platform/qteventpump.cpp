@@ -8,13 +8,17 @@ QtEventPump::QtEventPump(QObject* propietario, int intervaloMs)
     : mPropietario(propietario),
       mConPropietario(propietario != nullptr),
       mIntervaloMs(intervaloMs) {
-    mReloj.start();
 }
 
 bool QtEventPump::DoEvents() {
-    if (mReloj.elapsed() >= mIntervaloMs) {
+    // A pass count as well as the clock, so that a fast machine still lets events through
+    // during a loop that is long in passes but short in time.
+    constexpr int kPasadasMaximas = 1024;
+    if (!mReloj.isValid() || mReloj.elapsed() >= mIntervaloMs ||
+        ++mPasadasSinEventos >= kPasadasMaximas) {
         QCoreApplication::processEvents();
-        mReloj.restart();
+        mReloj.start();
+        mPasadasSinEventos = 0;
     }
     return !mConPropietario || !mPropietario.isNull();
 }
