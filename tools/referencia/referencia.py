@@ -95,9 +95,10 @@ def main():
     parser.add_argument("--bd", help="folder with emisividad.csv and tubos.csv")
     args = parser.parse_args()
     bd = BaseDatos(args.bd) if args.bd else BaseDatos()
-    salidas = [calcular_archivo(a, bd) for a in args.archivos]
-    json.dump(salidas[0] if len(salidas) == 1 else salidas, sys.stdout, ensure_ascii=False)
-    sys.stdout.write("\n")
+    # One line per file, each opened as in a program of its own.
+    for archivo in args.archivos:
+        json.dump(calcular_archivo(archivo, bd), sys.stdout, ensure_ascii=False)
+        sys.stdout.write("\n")
 
 
 if __name__ == "__main__":
