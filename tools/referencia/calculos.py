@@ -3,12 +3,12 @@
 import math
 
 from datos import coeficientes
-from vb import ErrorVB, comprobar, csng, dividir, exp, log, normalizar_decimal, potencia, texto_numero
-from vb import vb_int
+from vb import (ErrorVB, comprobar, csng, dividir, exp, log, normalizar_decimal, potencia,
+                texto_numero, vb_int)
 
-# A bisection whose bracket no longer moves would run for ever: the program cuts it with
-# this error, shown as any other.
+
 def _sin_convergencia():
+    """A bisection whose bracket no longer moves would run for ever: it ends with this error."""
     return ErrorVB(6, "El cálculo no converge")
 
 
@@ -103,6 +103,7 @@ def biseccion_radio(r1, eq, abandono=True):
 
 
 def redondeo_practico(e):
+    """To the nearest half inch; the integer part is Int, so a negative thickness rounds too."""
     n = vb_int(e)
     fraccion = e - n
     if fraccion < 0.25:
@@ -237,6 +238,7 @@ def calcular_sc(a, tipo, bd):
             bi["k"] = conductividad(tipo, bi["TM"])
             eq = dividir(comprobar((ti - t) * bi["k"]), bi["Qt"])
             bi["f"] = dividir(comprobar((ti - t) * bi["k"]), comprobar((t - ta) * eq))
+        # The bare pipe needs no surface temperature: it stands when the bisection gives up.
         cd = comprobar(c0 * potencia(dividir(1, d), 0.2))
         bi["Qrd"] = _qrd_caliente(ti, ta)
         bi["Qdc"] = p.qconv(ti, cd)

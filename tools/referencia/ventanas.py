@@ -17,7 +17,6 @@ class VentanaEntrada:
     # (code box, emissivity box, code variable, emissivity variable)
     MATERIALES = []
     OPCIONALES = ()
-    TAG = ""
 
     def __init__(self, tipo, base_datos, mensajes, bd_disponible=True, leer_emisividad_bd=True):
         self.tipo = tipo
