@@ -74,7 +74,7 @@ void AplicarFormato(QTableWidget& tabla, const std::string& formato) {
 
 frmGraficas::frmGraficas(ContextoAplicacion& contexto, Prompter& prompter, FuenteTubos& tubos,
                          QWidget* padre)
-    : QWidget(padre),
+    : VentanaActivable(padre),
       mContexto(contexto),
       mTestigo(new QObject(this)),
       mBomba(mTestigo),
@@ -226,13 +226,9 @@ void frmGraficas::Activar() {
     PonerPanel({});
 }
 
-void frmGraficas::ConectarActivacion() {
-    auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget());
-    if (marco == nullptr) {
-        return;
-    }
-    connect(marco, &QMdiSubWindow::aboutToActivate, this, &frmGraficas::Activar,
-            Qt::UniqueConnection);
+// Leaving the active place empties the status panel that the read-out writes.
+void frmGraficas::AlEntrarEnMarco(QMdiSubWindow* marco) {
+    VentanaActivable::AlEntrarEnMarco(marco);
     connect(
             marco, &QMdiSubWindow::windowStateChanged, this,
             [this](Qt::WindowStates antes, Qt::WindowStates ahora) {
@@ -241,15 +237,6 @@ void frmGraficas::ConectarActivacion() {
                 }
             },
             Qt::UniqueConnection);
-}
-
-bool frmGraficas::event(QEvent* evento) {
-    if (evento->type() == QEvent::ParentChange) {
-        ConectarActivacion();
-    } else if (evento->type() == QEvent::WindowActivate && isWindow()) {
-        Activar();
-    }
-    return QWidget::event(evento);
 }
 
 // A series still running holds this window: it is told to stop, and the window closes once it

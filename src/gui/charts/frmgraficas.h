@@ -2,6 +2,7 @@
 
 #include "core/charts/modelograficas.h"
 #include "core/datafile/ventanaarchivo.h"
+#include "gui/app/ventanaactivable.h"
 #include "gui/charts/bombagrafica.h"
 
 #include <QWidget>
@@ -17,7 +18,7 @@ struct ContextoAplicacion;
 
 /// The chart window: the series of a hot data entry window drawn on `picGrafica` and listed in
 /// `MSFG`, on the two tabs of `tbs`. Closing it while its series runs stops the series.
-class frmGraficas : public QWidget, public VentanaArchivo {
+class frmGraficas : public VentanaActivable, public VentanaArchivo {
     Q_OBJECT
 
 public:
@@ -34,7 +35,7 @@ public:
     /// the previous drawing left, while a run is in progress or when the series stopped.
     bool Graficar();
     /// The activation steps.
-    Q_INVOKABLE void Activar();
+    void Activar() override;
     /// Passes of the series' event pump so far.
     int64_t PasadasSerie() const { return mBomba.Pasadas(); }
 
@@ -49,14 +50,13 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void AlEntrarEnMarco(QMdiSubWindow* marco) override;
     void closeEvent(QCloseEvent* evento) override;
-    bool event(QEvent* evento) override;
 
 private:
     void CrearControles();
     QWidget* PestanaGrafica();
     QWidget* PestanaTabla();
-    void ConectarActivacion();
     /// Draws the series, if ready, at the picture's present size.
     bool Pintar();
     void Redibujar();

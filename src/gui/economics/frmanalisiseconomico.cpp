@@ -10,7 +10,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -58,7 +57,7 @@ void PonerTexto(QLineEdit& caja, const std::string& texto) {
 frmAnalisisEconomico::frmAnalisisEconomico(TipoEconomico tipo, ContextoAplicacion& contexto,
                                            Prompter& prompter, std::unique_ptr<Clock> reloj,
                                            QWidget* padre)
-    : QWidget(padre),
+    : VentanaActivable(padre),
       mBomba(this),
       mReloj(std::move(reloj)),
       mModelo(tipo, contexto, prompter, mBomba, *mReloj),
@@ -113,13 +112,6 @@ void frmAnalisisEconomico::ConectarListas() {
             [this](const QString& texto) { Paso([this, &texto] { mModelo.SetHoras(S(texto)); }); });
     connect(mFormulario.cboCombustibleUtilizado, &QComboBox::activated, this,
             [this](int entrada) { Paso([=, this] { mModelo.SeleccionarCombustible(entrada); }); });
-}
-
-void frmAnalisisEconomico::ConectarActivacion() {
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        connect(marco, &QMdiSubWindow::aboutToActivate, this, &frmAnalisisEconomico::Activar,
-                Qt::UniqueConnection);
-    }
 }
 
 void frmAnalisisEconomico::setVariables(const ValoresAnalisis& valores) {
@@ -323,15 +315,6 @@ bool frmAnalisisEconomico::eventFilter(QObject* objeto, QEvent* evento) {
             break;
     }
     return QWidget::eventFilter(objeto, evento);
-}
-
-bool frmAnalisisEconomico::event(QEvent* evento) {
-    if (evento->type() == QEvent::ParentChange) {
-        ConectarActivacion();
-    } else if (evento->type() == QEvent::WindowActivate && isWindow()) {
-        Activar();
-    }
-    return QWidget::event(evento);
 }
 
 std::string frmAnalisisEconomico::Tag() const {

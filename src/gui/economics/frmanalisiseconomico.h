@@ -3,6 +3,7 @@
 #include "core/datafile/ventanaarchivo.h"
 #include "core/economics/modeloeconomico.h"
 #include "core/platform/clock.h"
+#include "gui/app/ventanaactivable.h"
 #include "gui/economics/formularioeconomico.h"
 #include "gui/platform/qteventpump.h"
 
@@ -18,7 +19,7 @@ namespace kelvora {
 
 /// The two economic windows, built from the table of their model. The model decides; the
 /// window hands it each key, choice, click, focus and activation, and then shows its state.
-class frmAnalisisEconomico : public QWidget, public VentanaArchivo {
+class frmAnalisisEconomico : public VentanaActivable, public VentanaArchivo {
     Q_OBJECT
 
 public:
@@ -34,7 +35,7 @@ public:
     /// The losses and report values of the results window.
     void setVariables(const ValoresAnalisis& valores);
     /// The activation steps.
-    Q_INVOKABLE void Activar();
+    void Activar() override;
     /// Shows the model's state: boxes, lists, labels, status line, buttons and the Tag.
     void Refrescar();
 
@@ -46,13 +47,11 @@ public:
     void SetFileState(int16_t estado) override;
 
 protected:
-    bool event(QEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     void Conectar();
     void ConectarListas();
-    void ConectarActivacion();
     /// Runs a step of the model, shows its state and takes the focus where the model put it:
     /// always after "C&alcular", else when the step moved it.
     void Paso(const std::function<void()>& paso, bool seguirFoco = false);

@@ -14,7 +14,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -55,7 +54,7 @@ int IndiceEn(const std::vector<T*>& controles, const QObject* objeto) {
 
 frmDatosEntrada::frmDatosEntrada(const DescripcionEntrada& descripcion, EntornoVentanas entorno,
                                  QWidget* padre)
-    : QWidget(padre),
+    : VentanaActivable(padre),
       mEntorno(std::move(entorno)),
       mMateriales(mEntorno.contexto),
       mModelo(descripcion, EntornoModelo()),
@@ -120,13 +119,6 @@ void frmDatosEntrada::ConectarCaja(CajaValor* caja) {
     caja->installEventFilter(this);
     connect(caja, &CajaValor::Tecla, this, &frmDatosEntrada::txtValor_KeyPress);
     connect(caja, &QLineEdit::textEdited, this, [this, caja] { txtValor_Editada(caja->Indice()); });
-}
-
-void frmDatosEntrada::ConectarActivacion() {
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        connect(marco, &QMdiSubWindow::aboutToActivate, this, &frmDatosEntrada::Activar,
-                Qt::UniqueConnection);
-    }
 }
 
 void frmDatosEntrada::PonerProducto(int16_t tipo) {
@@ -366,15 +358,6 @@ bool frmDatosEntrada::eventFilter(QObject* objeto, QEvent* evento) {
             break;
     }
     return QWidget::eventFilter(objeto, evento);
-}
-
-bool frmDatosEntrada::event(QEvent* evento) {
-    if (evento->type() == QEvent::ParentChange) {
-        ConectarActivacion();
-    } else if (evento->type() == QEvent::WindowActivate && isWindow()) {
-        Activar();
-    }
-    return QWidget::event(evento);
 }
 
 // Tab walks the controls in the window's order and wraps within the window.

@@ -3,6 +3,7 @@
 #include "core/datafile/ventanaarchivo.h"
 #include "core/entry/materialesbd.h"
 #include "core/entry/modeloentrada.h"
+#include "gui/app/ventanaactivable.h"
 #include "gui/entry/entornoventanas.h"
 #include "gui/entry/formularioentrada.h"
 #include "gui/platform/qteventpump.h"
@@ -13,7 +14,7 @@ namespace kelvora {
 
 /// The four data entry windows, built from the table of their model. The model decides; the
 /// window hands it each key, click, focus and activation, and then shows the model's state.
-class frmDatosEntrada : public QWidget, public VentanaArchivo {
+class frmDatosEntrada : public VentanaActivable, public VentanaArchivo {
     Q_OBJECT
 
 public:
@@ -27,7 +28,7 @@ public:
     /// The window's product: `TipoAnalisis` and the singular name in `lblProducto`.
     void PonerProducto(int16_t tipo);
     /// The activation steps; the frame calls them when the emissivity option changes.
-    Q_INVOKABLE void Activar();
+    void Activar() override;
     /// Shows the model's state: boxes, lists, labels, buttons, focus and published properties.
     void Refrescar();
 
@@ -42,7 +43,6 @@ public:
     void ShowVariables() override;
 
 protected:
-    bool event(QEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     bool focusNextPrevChild(bool siguiente) override;
@@ -51,7 +51,6 @@ private:
     EntornoEntrada EntornoModelo();
     void Conectar();
     void ConectarCaja(CajaValor* caja);
-    void ConectarActivacion();
     void txtValor_KeyPress(int i, int KeyAscii);
     void txtValor_Editada(int i);
     void cmdAceptar_Click();
