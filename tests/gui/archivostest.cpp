@@ -193,7 +193,8 @@ void ArchivosTest::preguntaAlCerrar() {
             const QString nombre = caso.deArchivo ? QStringLiteral("el archivo '%1'").arg(archivo)
                                                   : QStringLiteral("'%1'").arg(caption);
             QCOMPARE(Q(pregunta.texto),
-                     QStringLiteral("Los datos en %1 han cambiado.\n\n¿Desea guardar los cambios?")
+                     QStringLiteral(
+                             "Los datos en %1 han cambiado.\r\n\r\n¿Desea guardar los cambios?")
                              .arg(nombre));
             QCOMPARE(pregunta.botones, Botones::SiNoCancelar);
             QCOMPARE(Q(pregunta.titulo), QStringLiteral("Advertencia"));

@@ -24,7 +24,7 @@ CLAVES_UNIDAD = {
 COMENTARIOS = "';:/*!#"
 
 TEXTO_SIN_VENTANA = (
-    "No es posible asociar los datos leidos con alguna ventana de Entrada de Datos.\n"
+    "No es posible asociar los datos leidos con alguna ventana de Entrada de Datos.\r\n"
     "Haga click en Ayuda para mayor información."
 )
 
@@ -96,10 +96,10 @@ class Validacion:
         self.avisos = ""
 
     def _aviso(self, texto):
-        self.avisos += texto + "\n"
+        self.avisos += texto + "\r\n"
 
     def _error(self, texto):
-        self.errores += texto + "\n"
+        self.errores += texto + "\r\n"
 
     def temperatura(self, variable, nombre, bulbo_humedo=False):
         if not self.u.existe(variable):
@@ -183,10 +183,10 @@ def validar_variables(unidades, tipo, mensajes):
     else:
         v.frio(tipo)
     if v.errores:
-        mensajes.append(("Se han encontrado los siguientes errores:\n" + v.errores, "critico",
+        mensajes.append(("Se han encontrado los siguientes errores:\r\n" + v.errores, "critico",
                          "Aceptar"))
         return False
     if v.avisos:
-        mensajes.append(("Los siguientes valores no se encontraron:\n" + v.avisos, "informacion",
+        mensajes.append(("Los siguientes valores no se encontraron:\r\n" + v.avisos, "informacion",
                          "Aceptar,Cancelar"))
     return True

@@ -79,8 +79,8 @@ bool PreguntarGuardar(VentanaArchivo& ventana, EntornoArchivos& entorno,
         return true;
     }
     Mensaje mensaje;
-    mensaje.texto = "Los datos en " + NombreEnPregunta(ventana) +
-                    " han cambiado.\n\n¿Desea guardar los cambios?";
+    mensaje.texto = "Los datos en " + NombreEnPregunta(ventana) + " han cambiado." + kSaltoDeLinea +
+                    kSaltoDeLinea + "¿Desea guardar los cambios?";
     mensaje.botones = Botones::SiNoCancelar;
     mensaje.icono = Icono::Pregunta;
     mensaje.titulo = "Advertencia";

@@ -9,8 +9,6 @@ namespace kelvora {
 
 namespace {
 
-constexpr const char* kSaltoDeLinea = "\n";
-
 /// The messages of one check, collected in order.
 class Comprobacion {
 public:

@@ -2,15 +2,18 @@
 
 #include "core/materials/conexion.h"
 #include "core/runtime/runtimeerror.h"
+#include "core/runtime/texto.h"
 
 namespace kelvora {
 
 std::string MensajeErrorConexion(const std::string& archivoBD, const std::string& descripcion) {
+    const std::string salto = kSaltoDeLinea;
     return "Se ha generado un error al intentar conectarse a la Base de Datos '" + archivoBD +
-           "':\n" + descripcion +
-           "\n\n\nHaga click en Aceptar para seguir con la aplicación. Algunas operaciones "
-           "serán desactivadas del Programa.\nHaga click en Cancelar para salir de la "
-           "aplicación.\nHaga click en Ayuda para obtener más información.";
+           "':" + salto + descripcion + salto + salto + salto +
+           "Haga click en Aceptar para seguir con la aplicación. Algunas operaciones serán "
+           "desactivadas del Programa." +
+           salto + "Haga click en Cancelar para salir de la aplicación." + salto +
+           "Haga click en Ayuda para obtener más información.";
 }
 
 bool ProbarBaseDatos(ContextoAplicacion& contexto, Prompter& prompter) {

@@ -5,6 +5,9 @@
 
 namespace kelvora {
 
+/// The runtime's line break, carriage return and line feed, in message and grid texts.
+inline constexpr char kSaltoDeLinea[] = "\r\n";
+
 /// Removes blanks (character 32 only) at both ends, as the runtime's Trim does.
 std::string Trim(std::string_view texto);
 std::string LTrim(std::string_view texto);

@@ -43,6 +43,11 @@ std::vector<Boton> BotonesDe(Botones botones) {
     }
 }
 
+// The runtime's line breaks are carriage return and line feed; a label wants line feeds.
+QString TextoParaMostrar(const std::string& texto) {
+    return Q(texto).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
 QMessageBox::Icon IconoDe(Icono icono) {
     switch (icono) {
         case Icono::Critico:
@@ -68,7 +73,7 @@ Respuesta QtPrompter::MsgBox(const Mensaje& mensaje) {
     while (true) {
         QMessageBox caja(IconoDe(mensaje.icono),
                          Q(mensaje.titulo.empty() ? kTituloAplicacion : mensaje.titulo),
-                         Q(mensaje.texto), QMessageBox::NoButton, mPadre);
+                         TextoParaMostrar(mensaje.texto), QMessageBox::NoButton, mPadre);
         std::vector<QPushButton*> pulsables;
         for (const Boton& b : botones) {
             pulsables.push_back(caja.addButton(QString::fromUtf8(b.texto), b.rol));
@@ -101,7 +106,7 @@ Respuesta QtPrompter::MsgBox(const Mensaje& mensaje) {
 std::optional<std::string> QtPrompter::InputBox(const Entrada& entrada) {
     QInputDialog dialogo(mPadre);
     dialogo.setWindowTitle(Q(entrada.titulo.empty() ? kTituloAplicacion : entrada.titulo));
-    dialogo.setLabelText(Q(entrada.mensaje));
+    dialogo.setLabelText(TextoParaMostrar(entrada.mensaje));
     dialogo.setTextValue(Q(entrada.valorInicial));
     dialogo.setOkButtonText(QStringLiteral("Aceptar"));
     dialogo.setCancelButtonText(QStringLiteral("Cancelar"));

@@ -128,8 +128,8 @@ TEST(PreguntarGuardar, SoloCambiosConArchivoOConLaOpcion) {
             const Mensaje& m = p.prompter.mensajes[0];
             const std::string nombre =
                     caso.conNombre ? "el archivo '" + archivo + "'" : "'Resultados [2]'";
-            EXPECT_EQ(m.texto,
-                      "Los datos en " + nombre + " han cambiado.\n\n¿Desea guardar los cambios?");
+            EXPECT_EQ(m.texto, "Los datos en " + nombre +
+                                       " han cambiado.\r\n\r\n¿Desea guardar los cambios?");
             EXPECT_EQ(m.botones, Botones::SiNoCancelar);
             EXPECT_EQ(m.icono, Icono::Pregunta);
             EXPECT_EQ(m.titulo, "Advertencia");

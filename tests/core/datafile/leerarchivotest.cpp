@@ -91,12 +91,12 @@ TEST(LeerArchivo, TrasUnFalloUnidadesConservaLoLeido) {
         {"unidad desconocida", "TemperaturaInterior = 300\r\nUnidadVelocidadAire = nudos\r\n",
          false, 0, "Error: La Unidad 'nudos' no existe para 'Velocidad'."},
         {"tuberia sin diametro", "VelocidadAire = 3\r\nTipo = 14\r\n",
-         false, 0, "Se han encontrado los siguientes errores:\n"
-                   "- No se encontró el Coeficiente de Transmisión de Calor.\n"
-                   "- No se encontró el Diámetro de la tubería a aislar.\n"
-                   "- No se encontró el Código del Material para la Superficie Exterior del Aistamiento.\n"},
+         false, 0, "Se han encontrado los siguientes errores:\r\n"
+                   "- No se encontró el Coeficiente de Transmisión de Calor.\r\n"
+                   "- No se encontró el Diámetro de la tubería a aislar.\r\n"
+                   "- No se encontró el Código del Material para la Superficie Exterior del Aistamiento.\r\n"},
         {"vacio", "",
-         false, 0, "No es posible asociar los datos leidos con alguna ventana de Entrada de Datos.\n"
+         false, 0, "No es posible asociar los datos leidos con alguna ventana de Entrada de Datos.\r\n"
                    "Haga click en Ayuda para mayor información."},
         {"ventana no creada", kCompleto,
          true,  1, ""},

@@ -29,8 +29,8 @@ const std::string kFrio =
         "CodigoMaterialSuperficieAislamiento = 0\nEmisividadSuperficieAislamiento = 0.9\n"
         "CodigoMaterialSuperficieDesnuda = 5\n";
 
-const std::string kErrores = "Se han encontrado los siguientes errores:\n";
-const std::string kAvisos = "Los siguientes valores no se encontraron:\n";
+const std::string kErrores = "Se han encontrado los siguientes errores:\r\n";
+const std::string kAvisos = "Los siguientes valores no se encontraron:\r\n";
 
 struct Resultado {
     bool valido;
@@ -55,51 +55,51 @@ TEST(ValidarVariables, MensajesPorTipo) {
         Icono icono;
         std::string mensaje;
     };
-    const std::string f = " Se asumió °F (Grados Fahrenheit).\n";
+    const std::string f = " Se asumió °F (Grados Fahrenheit).\r\n";
     // clang-format off
     const Caso casos[] = {
         {"plano completo", "Tipo = 1\n" + kCalor, Respuesta::Aceptar, true, Icono::Ninguno, ""},
         {"frio completo",  "Tipo = 13\n" + kFrio, Respuesta::Aceptar, true, Icono::Ninguno, ""},
         {"solo tipo",      "Tipo = 7",            Respuesta::Aceptar, false, Icono::Critico, kErrores +
-            "- No se encontró el Código del Material para la Superficie Exterior del Aistamiento.\n"
-            "- No se encontró el Código del Material para la Superficie Desnuda.\n"},
+            "- No se encontró el Código del Material para la Superficie Exterior del Aistamiento.\r\n"
+            "- No se encontró el Código del Material para la Superficie Desnuda.\r\n"},
         {"tuberia sin diametro", "Tipo = 12\n" + kCalor, Respuesta::Aceptar, false, Icono::Critico, kErrores +
-            "- No se encontró el Diámetro de la tubería a aislar.\n"},
+            "- No se encontró el Diámetro de la tubería a aislar.\r\n"},
         {"tuberia frio sin diametro", "Tipo = 14\n" + kFrio, Respuesta::Aceptar, false, Icono::Critico, kErrores +
-            "- No se encontró el Diámetro de la tubería a aislar.\n"},
+            "- No se encontró el Diámetro de la tubería a aislar.\r\n"},
         {"avisos aceptados", "Tipo = 8\nDiametroTuberia = 4\nVelocidadAire = 1\n"
             "TemperaturaInterior = 350\nUnidadTemperaturaInterior = °F\n"
             "TemperaturaAmbiente = 80\nCodigoMaterialSuperficieAislamiento = 2\n",
             Respuesta::Aceptar, true, Icono::Informacion, kAvisos +
-            "* La Temperatura de la Superficie del Aislamiento. Se asumió 0.\n"
+            "* La Temperatura de la Superficie del Aislamiento. Se asumió 0.\r\n"
             "* La Unidad para la Temperatura de la Superficie del Aislamiento." + f +
             "* La Unidad para la Temperatura Ambiente." + f +
-            "* La Unidad para la Velocidad del Aire. Se asumió mi/h (Millas por hora).\n"
-            "* La Unidad para el Diámetro de la tubería a aislar. Se asumió plg (Pulgadas).\n"},
+            "* La Unidad para la Velocidad del Aire. Se asumió mi/h (Millas por hora).\r\n"
+            "* La Unidad para el Diámetro de la tubería a aislar. Se asumió plg (Pulgadas).\r\n"},
         {"avisos cancelados", "Tipo = 2\nCodigoMaterialSuperficieAislamiento = 1\n"
             "CodigoMaterialSuperficieDesnuda = 1\n",
             Respuesta::Cancelar, false, Icono::Informacion, kAvisos +
-            "* La Temperatura Interior. Se asumió 0.\n"
+            "* La Temperatura Interior. Se asumió 0.\r\n"
             "* La Unidad para la Temperatura Interior." + f +
-            "* La Temperatura de la Superficie del Aislamiento. Se asumió 0.\n"
+            "* La Temperatura de la Superficie del Aislamiento. Se asumió 0.\r\n"
             "* La Unidad para la Temperatura de la Superficie del Aislamiento." + f +
-            "* La Temperatura Ambiente. Se asumió 0.\n"
+            "* La Temperatura Ambiente. Se asumió 0.\r\n"
             "* La Unidad para la Temperatura Ambiente." + f +
-            "* La Velocidad del Aire. Se asumió 0.\n"
-            "* La Unidad para la Velocidad del Aire. Se asumió mi/h (Millas por hora).\n"},
+            "* La Velocidad del Aire. Se asumió 0.\r\n"
+            "* La Unidad para la Velocidad del Aire. Se asumió mi/h (Millas por hora).\r\n"},
         {"kelvin y emisividad", "Tipo = 13\n" + kFrio + "TemperaturaInterior = 0\n"
             "UnidadTemperaturaInterior = K\nTemperaturaPuntoRocio = -40\n"
             "CodigoMaterialSuperficieDesnuda = 0\n",
             Respuesta::Aceptar, false, Icono::Critico, kErrores +
-            "- El Valor de la Temperatura Interior es Inválido.\n"
-            "- No se encontró la Emisividad del Material para la Superficie Desnuda.\n"},
+            "- El Valor de la Temperatura Interior es Inválido.\r\n"
+            "- No se encontró la Emisividad del Material para la Superficie Desnuda.\r\n"},
         {"errores ocultan avisos", "Tipo = 13\nTemperaturaInterior = 1\n"
             "UnidadTemperaturaInterior = °F\nTemperaturaAmbiente = 2\nUnidadTemperaturaAmbiente = °F\n"
             "TemperaturaPuntoRocio = 3\nUnidadTemperaturaPuntoRocio = °F\nVelocidadAire = 0\n"
             "UnidadVelocidadAire = mi/h\nCodigoMaterialSuperficieAislamiento = 1\n"
             "CodigoMaterialSuperficieDesnuda = 1\n",
             Respuesta::Aceptar, false, Icono::Critico, kErrores +
-            "- No se encontró el Coeficiente de Transmisión de Calor.\n"},
+            "- No se encontró el Coeficiente de Transmisión de Calor.\r\n"},
     };
     // clang-format on
     for (const Caso& caso : casos) {
@@ -127,9 +127,9 @@ TEST(ValidarVariables, BulboHumedoDesconocidoYSoloNegativoEnKelvin) {
     const Caso casos[] = {
         {"TemperaturaBulboHumedo = 0\nUnidadTemperaturaBulboHumedo = K\n",  ""},
         {"TemperaturaBulboHumedo = -1\nUnidadTemperaturaBulboHumedo = k\n", kErrores +
-            "- El Valor de la Temperatura del Bulbo Húmedo es Inválido.\n"},
+            "- El Valor de la Temperatura del Bulbo Húmedo es Inválido.\r\n"},
         {"TemperaturaPuntoRocio = 0\nUnidadTemperaturaPuntoRocio = K\n",    kErrores +
-            "- El Valor de la Temperatura del Punto de Rocío es Inválido.\n"},
+            "- El Valor de la Temperatura del Punto de Rocío es Inválido.\r\n"},
         {"TemperaturaAmbiente = -500\nUnidadTemperaturaAmbiente = °C\n",    ""},
     };
     // clang-format on
@@ -147,9 +147,9 @@ TEST(ValidarVariables, BulboHumedoDesconocidoYSoloNegativoEnKelvin) {
     ASSERT_EQ(r.prompter.mensajes.size(), 1u);
     EXPECT_EQ(r.prompter.mensajes.front().texto,
               kAvisos +
-                      "* La Temperatura del Bulbo Húmedo. Se asumió DESCONOCIDA.\n"
+                      "* La Temperatura del Bulbo Húmedo. Se asumió DESCONOCIDA.\r\n"
                       "* La Unidad para la Temperatura del Bulbo Húmedo. Se asumió °F (Grados "
-                      "Fahrenheit).\n");
+                      "Fahrenheit).\r\n");
 }
 
 TEST(ValidarVariables, UnidadesAsumidasQuedanEnLaLista) {
@@ -175,7 +175,7 @@ TEST(ValidarVariables, TipoSinVentana) {
         const Mensaje& m = r.prompter.mensajes.front();
         EXPECT_EQ(m.texto,
                   "No es posible asociar los datos leidos con alguna ventana de Entrada de "
-                  "Datos.\nHaga click en Ayuda para mayor información.");
+                  "Datos.\r\nHaga click en Ayuda para mayor información.");
         EXPECT_EQ(m.icono, Icono::Critico);
         EXPECT_EQ(m.contextoAyuda, 118);
         EXPECT_EQ(m.titulo, kTituloAplicacion);

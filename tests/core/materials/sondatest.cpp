@@ -44,9 +44,10 @@ Preparar Escribir(std::streamoff paso, const char* texto) {
 
 std::string TextoEsperado(const std::string& archivo, const std::string& descripcion) {
     return "Se ha generado un error al intentar conectarse a la Base de Datos '" + archivo +
-           "':\n" + descripcion +
-           "\n\n\nHaga click en Aceptar para seguir con la aplicación. Algunas operaciones serán "
-           "desactivadas del Programa.\nHaga click en Cancelar para salir de la aplicación.\n"
+           "':\r\n" + descripcion +
+           "\r\n\r\n\r\nHaga click en Aceptar para seguir con la aplicación. Algunas operaciones "
+           "serán "
+           "desactivadas del Programa.\r\nHaga click en Cancelar para salir de la aplicación.\r\n"
            "Haga click en Ayuda para obtener más información.";
 }
 
