@@ -85,7 +85,10 @@ int EjecutarAplicacion(int argc, char** argv) {
     if (!archivo.empty()) {
         principal.AbrirArchivoInicio(archivo);
     }
+    // Raised as well as repainted: without a window manager to keep it on top, the frame
+    // shown after it would cover it.
     if (contexto.SplashVisible) {
+        splash.raise();
         splash.update();
     }
     QApplication::restoreOverrideCursor();
