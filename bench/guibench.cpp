@@ -1,6 +1,7 @@
 #include "core/app/arranque.h"
 #include "core/app/contexto.h"
 #include "core/platform/clock.h"
+#include "core/platform/settingsmemoria.h"
 #include "gui/app/fabricaprograma.h"
 #include "gui/app/mdikelvora.h"
 #include "gui/entry/frmdatosentrada.h"
@@ -25,22 +26,6 @@
 namespace kelvora {
 
 namespace {
-
-class AjustesBanco : public SettingsStore {
-public:
-    std::string GetSetting(const std::string&, const std::string& seccion, const std::string& clave,
-                           const std::string& predeterminado) override {
-        const auto valor = mValores.find(seccion + '/' + clave);
-        return valor == mValores.end() ? predeterminado : valor->second;
-    }
-    void SaveSetting(const std::string&, const std::string& seccion, const std::string& clave,
-                     const std::string& valor) override {
-        mValores[seccion + '/' + clave] = valor;
-    }
-
-private:
-    std::map<std::string, std::string> mValores;
-};
 
 class RelojBanco : public Clock {
 public:
@@ -138,7 +123,7 @@ struct Programa {
     }
 
     ContextoAplicacion contexto;
-    AjustesBanco ajustes;
+    SettingsEnMemoria ajustes;
     RelojBanco reloj;
     PrompterBanco prompter;
     std::unique_ptr<mdiKelvora> principal;

@@ -11,11 +11,11 @@
 #include "core/entry/ventanadatosarchivo.h"
 #include "core/materials/errorbd.h"
 #include "core/materials/fuentetubosbd.h"
+#include "core/platform/settingsmemoria.h"
 #include "core/runtime/texto.h"
 
 #include <filesystem>
 #include <iostream>
-#include <map>
 #include <memory>
 #include <optional>
 
@@ -56,23 +56,6 @@ std::string CarpetaEjecutable() {
     const std::filesystem::path ejecutable = std::filesystem::read_symlink("/proc/self/exe", error);
     return error ? std::filesystem::current_path().string() : ejecutable.parent_path().string();
 }
-
-// The recent files of a run of the command line are kept in memory only.
-class AjustesMemoria : public SettingsStore {
-public:
-    std::string GetSetting(const std::string&, const std::string& seccion, const std::string& clave,
-                           const std::string& predeterminado) override {
-        const auto valor = mValores.find(seccion + '/' + clave);
-        return valor == mValores.end() ? predeterminado : valor->second;
-    }
-    void SaveSetting(const std::string&, const std::string& seccion, const std::string& clave,
-                     const std::string& valor) override {
-        mValores[seccion + '/' + clave] = valor;
-    }
-
-private:
-    std::map<std::string, std::string> mValores;
-};
 
 // No database file: no lookup, and a pipe table that cannot be read.
 class MaterialesAusentes : public AccesoMateriales {
@@ -158,7 +141,7 @@ private:
     std::string mArchivo;
     ContextoAplicacion mContexto;
     PrompterConsola mPrompter;
-    AjustesMemoria mAjustes;
+    SettingsEnMemoria mAjustes;
     BombaSinVentana mBomba;
     std::unique_ptr<AccesoMateriales> mMateriales;
     std::unique_ptr<FuenteTubos> mTubos;

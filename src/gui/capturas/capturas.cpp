@@ -36,18 +36,6 @@ std::function<QWidget*(QWidget&)> AbrirMenu(const char* nombre) {
 
 }  // namespace
 
-std::string AjustesMemoria::GetSetting(const std::string& aplicacion, const std::string& seccion,
-                                       const std::string& clave,
-                                       const std::string& predeterminado) {
-    const auto it = mValores.find({aplicacion, seccion, clave});
-    return it == mValores.end() ? predeterminado : it->second;
-}
-
-void AjustesMemoria::SaveSetting(const std::string& aplicacion, const std::string& seccion,
-                                 const std::string& clave, const std::string& valor) {
-    mValores[{aplicacion, seccion, clave}] = valor;
-}
-
 const std::vector<Captura>& Capturas() {
     // clang-format off
     static const std::vector<Captura> capturas = {

@@ -3,29 +3,16 @@
 #include "core/app/contexto.h"
 #include "core/platform/clock.h"
 #include "core/platform/prompter.h"
+#include "core/platform/settingsmemoria.h"
 #include "core/platform/settingsstore.h"
 
 #include <QWidget>
 
 #include <functional>
-#include <map>
 #include <memory>
-#include <tuple>
 #include <vector>
 
 namespace kelvora {
-
-/// Settings kept in memory, so that a capture reads and writes no user file.
-class AjustesMemoria : public SettingsStore {
-public:
-    std::string GetSetting(const std::string& aplicacion, const std::string& seccion,
-                           const std::string& clave, const std::string& predeterminado) override;
-    void SaveSetting(const std::string& aplicacion, const std::string& seccion,
-                     const std::string& clave, const std::string& valor) override;
-
-private:
-    std::map<std::tuple<std::string, std::string, std::string>, std::string> mValores;
-};
 
 /// A fixed date, so that every capture shows the same day.
 class RelojCaptura : public Clock {
@@ -36,7 +23,7 @@ public:
 /// What the windows of a capture are built with.
 struct EntornoCaptura {
     ContextoAplicacion contexto;
-    AjustesMemoria ajustes;
+    SettingsEnMemoria ajustes;
     RelojCaptura reloj;
     std::unique_ptr<Prompter> prompter;
 };
