@@ -379,68 +379,71 @@ TEST(RealizarCalculosFrio, CasosCalculadosIndependientemente) {
     }
 }
 
+using Calculo = std::function<bool(Entorno&)>;
+
+Calculo CalcularSP(ArgumentosSP a) {
+    return [a](Entorno& e) mutable { return RealizarCalculosSP(e.ventana, a); };
+}
+
+Calculo CalcularSC(ArgumentosSC a) {
+    return [a](Entorno& e) mutable { return RealizarCalculosSC(e.ventana, a, e.tubos); };
+}
+
+Calculo CalcularSPFrio(ArgumentosSPFrio a) {
+    return [a](Entorno& e) { return RealizarCalculosSPFrio(e.ventana, a); };
+}
+
+Calculo CalcularSCFrio(ArgumentosSCFrio a) {
+    return [a](Entorno& e) { return RealizarCalculosSCFrio(e.ventana, a, e.tubos); };
+}
+
+ArgumentosSP SinUnidadVisual(ArgumentosSP a) {
+    a.unidades = {"°F"};
+    return a;
+}
+
+ArgumentosSC EnModoGrafica(ArgumentosSC a) {
+    a.modoGrafica = true;
+    a.tipoGrafica = 1;
+    return a;
+}
+
 struct CasoError {
     const char* nombre;
     TipoResultados tipo;
     int32_t producto;
-    std::function<bool(Entorno&)> calcular;
+    Calculo calcular;
     const char* mensaje;
 };
+
+const auto kPlana = TipoResultados::SuperficiesPlanas;
+const auto kTubo = TipoResultados::SuperficiesCilindricas;
+const auto kPlanaFrio = TipoResultados::SuperficiesPlanasFrio;
+const auto kTuboFrio = TipoResultados::SuperficiesCilindricasFrio;
 
 // Every failure ends with one exclamation box under the application's title, False, and an
 // empty grid.
 TEST(ErroresDeCalculo, MensajeYResultadoFalso) {
+    // clang-format off
     const std::vector<CasoError> casos = {
-            {"espesor practico 0", TipoResultados::SuperficiesPlanas, 1,
-             [](Entorno& e) {
-                 auto a = Sp(150, 148, 80, 0, 0.9, 0.9, 7);
-                 return RealizarCalculosSP(e.ventana, a);
-             },
-             "Error inesperado: División por cero"},
-            {"sin unidad visual", TipoResultados::SuperficiesPlanas, 1,
-             [](Entorno& e) {
-                 auto a = Sp(600, 140, 80, 0, 0.9, 0.8, 7);
-                 a.unidades = {"°F"};
-                 return RealizarCalculosSP(e.ventana, a);
-             },
-             "Error inesperado: El subíndice está fuera del intervalo"},
-            {"nominal ausente", TipoResultados::SuperficiesCilindricas, 9,
-             [](Entorno& e) {
-                 auto a = Sc(450, 130, 75, 3, 5, 2, 0.85);
-                 return RealizarCalculosSC(e.ventana, a, e.tubos);
-             },
-             "Error inesperado: No se encontró un diámetro de 5 plg en la Base de Datos."},
-            {"producto 12 lee la tabla sobre 14", TipoResultados::SuperficiesCilindricas, 12,
-             [](Entorno& e) {
-                 auto a = Sc(450, 130, 75, 3, 14.7, 2, 0.85);
-                 return RealizarCalculosSC(e.ventana, a, e.tubos);
-             },
-             "Error inesperado: No se encontró un diámetro de 14.7 plg en la Base de Datos."},
-            {"modo grafica de tuberia", TipoResultados::SuperficiesCilindricas, 9,
-             [](Entorno& e) {
-                 auto a = Sc(450, 130, 75, 3, 2.5, 2, 0.85);
-                 a.modoGrafica = true;
-                 a.tipoGrafica = 1;
-                 return RealizarCalculosSC(e.ventana, a, e.tubos);
-             },
-             "Error inesperado: No se encontró un diámetro de 2.5 plg en la Base de Datos."},
-            {"TS igual a TI", TipoResultados::SuperficiesPlanasFrio, 13,
-             [](Entorno& e) {
-                 return RealizarCalculosSPFrio(e.ventana, SpFrio(40, 40, 90, 4, 0.15, 0.9, 0.3));
-             },
-             "Error inesperado: Desbordamiento"},
-            {"seccion mayor que Tres", TipoResultados::SuperficiesCilindricasFrio, 14,
-             [](Entorno& e) {
-                 return RealizarCalculosSCFrio(e.ventana, ScFrio(-20, 56, 95, 2, 8, 3), e.tubos);
-             },
-             "Orbelas de mas de 4 plg de espesor, no prevista en este programa"},
-            {"tubo frio ausente", TipoResultados::SuperficiesCilindricasFrio, 14,
-             [](Entorno& e) {
-                 return RealizarCalculosSCFrio(e.ventana, ScFrio(-20, 56, 95, 2, 0.16, 16),
-                                               e.tubos);
-             },
-             "Error inesperado: No se encontró un diámetro de 16 plg en la Base de Datos."},
+        {"espesor practico 0",                kPlana,     1,  CalcularSP(Sp(150, 148, 80, 0, 0.9, 0.9, 7)),
+         "Error inesperado: División por cero"},
+        {"sin unidad visual",                 kPlana,     1,  CalcularSP(SinUnidadVisual(Sp(600, 140, 80, 0, 0.9, 0.8, 7))),
+         "Error inesperado: El subíndice está fuera del intervalo"},
+        {"nominal ausente",                   kTubo,      9,  CalcularSC(Sc(450, 130, 75, 3, 5, 2, 0.85)),
+         "Error inesperado: No se encontró un diámetro de 5 plg en la Base de Datos."},
+        {"producto 12 lee la tabla sobre 14", kTubo,      12, CalcularSC(Sc(450, 130, 75, 3, 14.7, 2, 0.85)),
+         "Error inesperado: No se encontró un diámetro de 14.7 plg en la Base de Datos."},
+        {"modo grafica de tuberia",           kTubo,      9,  CalcularSC(EnModoGrafica(Sc(450, 130, 75, 3, 2.5, 2, 0.85))),
+         "Error inesperado: No se encontró un diámetro de 2.5 plg en la Base de Datos."},
+        {"TS igual a TI",                     kPlanaFrio, 13, CalcularSPFrio(SpFrio(40, 40, 90, 4, 0.15, 0.9, 0.3)),
+         "Error inesperado: Desbordamiento"},
+        {"seccion mayor que Tres",            kTuboFrio,  14, CalcularSCFrio(ScFrio(-20, 56, 95, 2, 8, 3)),
+         "Orbelas de mas de 4 plg de espesor, no prevista en este programa"},
+        {"tubo frio ausente",                 kTuboFrio,  14, CalcularSCFrio(ScFrio(-20, 56, 95, 2, 0.16, 16)),
+         "Error inesperado: No se encontró un diámetro de 16 plg en la Base de Datos."},
     };
+    // clang-format on
     for (const CasoError& caso : casos) {
         SCOPED_TRACE(caso.nombre);
         Entorno e(caso.tipo, caso.producto);
@@ -457,30 +460,14 @@ TEST(ErroresDeCalculo, MensajeYResultadoFalso) {
 
 // A window closed while events run stops its calculation at once, without a message.
 TEST(ErroresDeCalculo, VentanaCerradaTerminaSinMensaje) {
+    // clang-format off
     const std::vector<CasoError> casos = {
-            {"SP", TipoResultados::SuperficiesPlanas, 1,
-             [](Entorno& e) {
-                 auto a = Sp(600, 140, 80, 0, 0.9, 0.8, 7);
-                 return RealizarCalculosSP(e.ventana, a);
-             },
-             ""},
-            {"SC", TipoResultados::SuperficiesCilindricas, 9,
-             [](Entorno& e) {
-                 auto a = Sc(450, 130, 75, 3, 3, 2, 0.85);
-                 return RealizarCalculosSC(e.ventana, a, e.tubos);
-             },
-             ""},
-            {"SPFrio", TipoResultados::SuperficiesPlanasFrio, 13,
-             [](Entorno& e) {
-                 return RealizarCalculosSPFrio(e.ventana, SpFrio(0, 51, 90, 4, 0.15, 0.9, 0.3));
-             },
-             ""},
-            {"SCFrio", TipoResultados::SuperficiesCilindricasFrio, 14,
-             [](Entorno& e) {
-                 return RealizarCalculosSCFrio(e.ventana, ScFrio(-20, 56, 95, 2, 0.16, 3), e.tubos);
-             },
-             ""},
+        {"SP",     kPlana,     1,  CalcularSP(Sp(600, 140, 80, 0, 0.9, 0.8, 7)),         ""},
+        {"SC",     kTubo,      9,  CalcularSC(Sc(450, 130, 75, 3, 3, 2, 0.85)),          ""},
+        {"SPFrio", kPlanaFrio, 13, CalcularSPFrio(SpFrio(0, 51, 90, 4, 0.15, 0.9, 0.3)), ""},
+        {"SCFrio", kTuboFrio,  14, CalcularSCFrio(ScFrio(-20, 56, 95, 2, 0.16, 3)),      ""},
     };
+    // clang-format on
     for (const CasoError& caso : casos) {
         SCOPED_TRACE(caso.nombre);
         Entorno e(caso.tipo, caso.producto);
