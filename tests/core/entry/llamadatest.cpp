@@ -49,66 +49,56 @@ void Comparar(const LlamadaCalculo& llamada, const std::vector<Esperado>& espera
 // x·0.62137; m/s -> mi/h: x·0.00062137·3600; mm -> plg: x/25.4; K -> °F: x·9/5 - 459.67).
 TEST(LlamadaCalculo, ConversionesPorVentana) {
     const NombresUnidades tresC = {"°C", "°C", "°C"};
+    // clang-format off
     {
         Banco b(TipoEntrada::SuperficiesPlanas);
-        Poner(b, {{1, "100", "°C"},
-                  {2, "50", "°C"},
-                  {3, "20", "°C"},
-                  {4, "36", "km/h"},
-                  {5, "3", nullptr},
-                  {7, "7", nullptr}});
+        Poner(b, {{1, "100", "°C"}, {2, "50", "°C"}, {3, "20", "°C"}, {4, "36", "km/h"},
+                  {5, "3", nullptr}, {7, "7", nullptr}});
         const LlamadaCalculo l = PrepararLlamada(*b.ventana);
         EXPECT_EQ(l.analisis, Analisis::SP);
-        Comparar(l, {{"TemperaturaInterior", 212.0},
-                     {"TemperaturaSuperficieAislamiento", 122.0},
-                     {"TemperaturaAmbiente", 68.0},
-                     {"unidades", tresC},
-                     {"VelocidadAire", 36 * 0.62137},
-                     {"EmisividadSuperficieAislamiento", 0.9},
-                     {"EmisividadSuperficieDesnuda", 0.8},
+        Comparar(l, {{"TemperaturaInterior",                 212.0},
+                     {"TemperaturaSuperficieAislamiento",    122.0},
+                     {"TemperaturaAmbiente",                 68.0},
+                     {"unidades",                            tresC},
+                     {"VelocidadAire",                       36 * 0.62137},
+                     {"EmisividadSuperficieAislamiento",     0.9},
+                     {"EmisividadSuperficieDesnuda",         0.8},
                      {"CodigoMaterialSuperficieAislamiento", int16_t{3}},
-                     {"CodigoMaterialSuperficieDesnuda", int16_t{7}},
-                     {"NombreMaterialAislamiento", std::string("PINTURA NEGRA")},
-                     {"NombreMaterialDesnuda", std::string("ACERO OXIDADO")},
-                     {"modoGrafica", false},
-                     {"tipoGrafica", int16_t{0}}});
+                     {"CodigoMaterialSuperficieDesnuda",     int16_t{7}},
+                     {"NombreMaterialAislamiento",           std::string("PINTURA NEGRA")},
+                     {"NombreMaterialDesnuda",               std::string("ACERO OXIDADO")},
+                     {"modoGrafica",                         false},
+                     {"tipoGrafica",                         int16_t{0}}});
     }
     {
         Banco b(TipoEntrada::SuperficiesCilindricas);
-        Poner(b, {{1, "100", "°C"},
-                  {2, "50", "°C"},
-                  {3, "20", "°C"},
-                  {5, "50", "mm"},
+        Poner(b, {{1, "100", "°C"}, {2, "50", "°C"}, {3, "20", "°C"}, {5, "50", "mm"},
                   {6, "12", nullptr}});
         const LlamadaCalculo l = PrepararLlamada(*b.ventana);
         EXPECT_EQ(l.analisis, Analisis::SC);
-        Comparar(l, {{"unidades", tresC},
-                     {"DiametroTuberia", 50 / 25.4},
+        Comparar(l, {{"unidades",                            tresC},
+                     {"DiametroTuberia",                     50 / 25.4},
                      {"CodigoMaterialSuperficieAislamiento", int16_t{12}},
-                     {"EmisividadSuperficieAislamiento", 0.1}});
+                     {"EmisividadSuperficieAislamiento",     0.1}});
     }
     for (const TipoEntrada tipo : {TipoEntrada::PlanasFrio, TipoEntrada::CilindricasFrio}) {
         Banco b(tipo);
-        Poner(b, {{1, "-10", "°C"},
-                  {2, "86", "°F"},
-                  {3, "", "K"},
-                  {4, "20", "°C"},
-                  {5, "50", nullptr},
-                  {6, "0.2", nullptr},
-                  {7, "1", "m/s"}});
+        Poner(b, {{1, "-10", "°C"}, {2, "86", "°F"}, {3, "", "K"}, {4, "20", "°C"},
+                  {5, "50", nullptr}, {6, "0.2", nullptr}, {7, "1", "m/s"}});
         const LlamadaCalculo l = PrepararLlamada(*b.ventana);
-        Comparar(l, {{"TemperaturaInterior", 14.0},
-                     {"TemperaturaSuperficie", 69.0},
-                     {"TemperaturaAmbiente", 86.0},
-                     {"TemperaturaBulboHumedo", -459.67},
-                     {"hayTBH", false},
-                     {"TemperaturaPuntoRocio", 68.0},
-                     {"unidades", NombresUnidades{"°C", "°C", "°F", "K", "°C"}},
-                     {"VelocidadAire", 0.00062137 * 3600},
-                     {"HumedadRelativa", 50.0},
-                     {"hayHR", true},
+        Comparar(l, {{"TemperaturaInterior",         14.0},
+                     {"TemperaturaSuperficie",       69.0},
+                     {"TemperaturaAmbiente",         86.0},
+                     {"TemperaturaBulboHumedo",      -459.67},
+                     {"hayTBH",                      false},
+                     {"TemperaturaPuntoRocio",       68.0},
+                     {"unidades",                    NombresUnidades{"°C", "°C", "°F", "K", "°C"}},
+                     {"VelocidadAire",               0.00062137 * 3600},
+                     {"HumedadRelativa",             50.0},
+                     {"hayHR",                       true},
                      {"CoeficienteTransmisionCalor", 0.2}});
     }
+    // clang-format on
     // The cold pipe takes its diameter as typed, whatever the unit.
     Banco b(TipoEntrada::CilindricasFrio);
     Poner(b, {{8, "500", "mm"}, {9, "3", nullptr}});
