@@ -8,26 +8,20 @@
 #include "gui/app/ventanahija.h"
 #include "gui/platform/texto.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <thread>
 
 namespace kelvora::prueba {
 
 namespace {
-
-QWidget* Hijo(const QWidget* ventana, const QString& nombre) {
-    auto* hijo = ventana->findChild<QWidget*>(nombre);
-    if (hijo == nullptr) {
-        qFatal("No hay control %s", qPrintable(nombre));
-    }
-    return hijo;
-}
 
 class DestinoMemoria : public DestinoResultados {
 public:
@@ -85,12 +79,11 @@ BancoVentanas::BancoVentanas() {
     tubos = lentos.get();
     ventanas = new ArchivosVentanas(marco, contexto, ajustes, prompter, std::move(guion),
                                     std::move(lentos));
-    FabricaVentanas fabrica;
     fabrica.NuevaVentanaDatos = std::bind_front(&ArchivosVentanas::NuevaVentanaDatos, ventanas);
     fabrica.LeerArchivo = std::bind_front(&ArchivosVentanas::LeerArchivo, ventanas);
     fabrica.GuardarVentana = std::bind_front(&ArchivosVentanas::GuardarVentana, ventanas);
     fabrica.PreguntarGuardar = std::bind_front(&ArchivosVentanas::PreguntarGuardar, ventanas);
-    marco.PonerFabrica(fabrica);
+    PonerFabrica();
     marco.resize(1000, 760);
     marco.show();
     marco.activateWindow();
@@ -120,6 +113,10 @@ frmResultados* BancoVentanas::Calcular(frmDatosEntrada* ventana) {
         }
     }
     return nullptr;
+}
+
+void BancoVentanas::PonerFabrica() {
+    marco.PonerFabrica(fabrica);
 }
 
 void BancoVentanas::Esperar() {
@@ -160,6 +157,22 @@ Grilla GrillaSinVentanas(const std::string& archivo) {
     return destino.ventana->MSFG();
 }
 
+QWidget* Hijo(const QWidget* ventana, const QString& nombre) {
+    auto* hijo = ventana->findChild<QWidget*>(nombre);
+    if (hijo == nullptr) {
+        qFatal("No hay control %s", qPrintable(nombre));
+    }
+    return hijo;
+}
+
+QAction* Accion(const QWidget* ventana, const char* nombre) {
+    auto* accion = ventana->findChild<QAction*>(QString::fromLatin1(nombre));
+    if (accion == nullptr) {
+        qFatal("No hay acción %s", nombre);
+    }
+    return accion;
+}
+
 QLineEdit* Caja(const QWidget* ventana, int i) {
     return static_cast<QLineEdit*>(Hijo(ventana, QStringLiteral("txtValor_%1").arg(i)));
 }
@@ -170,6 +183,32 @@ QComboBox* Lista(const QWidget* ventana, int i) {
 
 QPushButton* Boton(const QWidget* ventana, const char* nombre) {
     return static_cast<QPushButton*>(Hijo(ventana, QString::fromLatin1(nombre)));
+}
+
+void Escribir(const QWidget* ventana, const QString& nombre, const QString& texto) {
+    QWidget* control = Hijo(ventana, nombre);
+    auto* lista = qobject_cast<QComboBox*>(control);
+    QLineEdit* caja = lista != nullptr ? lista->lineEdit() : static_cast<QLineEdit*>(control);
+    QTest::mouseClick(caja, Qt::LeftButton);
+    caja->selectAll();
+    QTest::keyClicks(control, texto);
+}
+
+void Seleccionar(QComboBox* lista, const QString& entrada) {
+    lista->setFocus(Qt::MouseFocusReason);
+    lista->setCurrentIndex(lista->findText(entrada));
+    emit lista->activated(lista->currentIndex());
+}
+
+void AlOcurrir(QObject* dueno, std::function<bool()> listo, std::function<void()> hacer) {
+    auto* reloj = new QTimer(dueno);
+    QObject::connect(reloj, &QTimer::timeout, [reloj, listo, hacer] {
+        if (listo()) {
+            reloj->stop();
+            hacer();
+        }
+    });
+    reloj->start(0);
 }
 
 QString Desacuerdo(const frmDatosEntrada& ventana) {

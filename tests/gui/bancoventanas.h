@@ -10,9 +10,11 @@
 #include "support/dobles.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <vector>
 
+class QAction;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
@@ -55,7 +57,10 @@ struct BancoVentanas {
     frmResultados* Calcular(frmDatosEntrada* ventana);
     /// Lets closed windows go.
     static void Esperar();
+    /// Plugs `fabrica` into the frame again after a test has added commands to it.
+    void PonerFabrica();
 
+    FabricaVentanas fabrica;
     PrompterGuion prompter;
     SettingsMemoria ajustes;
     RelojFijo reloj{Fecha{2024, 3, 5}};
@@ -74,9 +79,24 @@ std::string Ejemplo(const char* nombre);
 Grilla GrillaSinVentanas(const std::string& archivo);
 
 /// Controls of a window by name; a missing one stops the test program.
+QWidget* Hijo(const QWidget* ventana, const QString& nombre);
+QAction* Accion(const QWidget* ventana, const char* nombre);
+template <class T = QWidget>
+T* Control(const QWidget* ventana, const QString& nombre) {
+    return static_cast<T*>(Hijo(ventana, nombre));
+}
 QLineEdit* Caja(const QWidget* ventana, int i);
 QComboBox* Lista(const QWidget* ventana, int i);
 QPushButton* Boton(const QWidget* ventana, const char* nombre);
+
+/// Clicks into a box or an editable list, selects its text and types over it.
+void Escribir(const QWidget* ventana, const QString& nombre, const QString& texto);
+/// Takes the list with the mouse and picks an entry.
+void Seleccionar(QComboBox* lista, const QString& entrada);
+
+/// Does `hacer` once, from the events that a running calculation lets through, the first time
+/// `listo` holds.
+void AlOcurrir(QObject* dueno, std::function<bool()> listo, std::function<void()> hacer);
 
 /// What the window shows disagrees with its model: the first difference, or empty.
 QString Desacuerdo(const frmDatosEntrada& ventana);
