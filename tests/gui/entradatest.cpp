@@ -22,11 +22,14 @@
 
 namespace kelvora {
 
+using prueba::Accion;
 using prueba::BancoVentanas;
 using prueba::Boton;
 using prueba::Caja;
 using prueba::Desacuerdo;
+using prueba::Escribir;
 using prueba::Lista;
+using prueba::Seleccionar;
 
 class EntradaTest : public QObject {
     Q_OBJECT
@@ -43,29 +46,7 @@ private slots:
     void productoDesdeElMenu();
     void emisividadEscrita();
     void teclasAlAzarNoDesacuerdan();
-
-private:
-    static void Seleccionar(QComboBox* lista, const QString& unidad);
-    static void Reemplazar(QLineEdit* caja, const QString& texto);
-    static QAction* Accion(BancoVentanas& b, const char* nombre);
 };
-
-void EntradaTest::Seleccionar(QComboBox* lista, const QString& unidad) {
-    const int indice = lista->findText(unidad);
-    lista->setCurrentIndex(indice);
-    emit lista->activated(indice);
-}
-
-// Clicks into the box, selects its text and types over it.
-void EntradaTest::Reemplazar(QLineEdit* caja, const QString& texto) {
-    QTest::mouseClick(caja, Qt::LeftButton);
-    caja->selectAll();
-    QTest::keyClicks(caja, texto);
-}
-
-QAction* EntradaTest::Accion(BancoVentanas& b, const char* nombre) {
-    return b.marco.findChild<QAction*>(QString::fromLatin1(nombre));
-}
 
 void EntradaTest::controlesDeLasCuatroVentanas() {
     struct Caso {
@@ -143,15 +124,13 @@ void EntradaTest::comandosDeProductoDelMenu() {
     // clang-format on
     BancoVentanas b;
     for (const Caso& caso : casos) {
-        QAction* accion = Accion(b, caso.accion);
+        QAction* accion = Accion(&b.marco, caso.accion);
         QVERIFY(accion->isEnabled());
         accion->trigger();
         auto* v = qobject_cast<frmDatosEntrada*>(b.marco.VentanaActiva());
         QVERIFY2(v != nullptr, caso.accion);
         QCOMPARE(v->objectName(), QString::fromLatin1(caso.ventana));
         QCOMPARE(v->TipoAnalisis(), caso.tipo);
-        QCOMPARE(v->findChild<QLabel*>(QStringLiteral("lblProducto"))->text(),
-                 Q(NombreProducto(caso.tipo, false)));
     }
     QCOMPARE(b.marco.VentanaActiva()->windowTitle(),
              QStringLiteral("Cálculo de Espesor Óptimo - Ganancia de Calor - Tuberías [1]"));
@@ -160,9 +139,9 @@ void EntradaTest::comandosDeProductoDelMenu() {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     b.Esperar();
     QCOMPARE(b.marco.VentanasHijas().size(), 6);
-    Accion(b, "mnuATCAOGCTOrbelasPreformadas")->trigger();
+    Accion(&b.marco, "mnuATCAOGCTOrbelasPreformadas")->trigger();
     QVERIFY(b.marco.VentanaActiva()->windowTitle().endsWith(QStringLiteral("[1]")));
-    Accion(b, "mnuATCAOPCEKandor")->trigger();
+    Accion(&b.marco, "mnuATCAOPCEKandor")->trigger();
     QVERIFY(b.marco.VentanaActiva()->windowTitle().endsWith(QStringLiteral("[4]")));
 }
 
@@ -206,34 +185,20 @@ void EntradaTest::filtroDeTeclas() {
         const char* teclas;
         const char* texto;
     };
-    // "\b" is Backspace; "|" pastes what follows it as one text.
+    // One path per rule of the filter, whose whole table the core pins: "\b" is Backspace; "|"
+    // pastes what follows it as one text.
     // clang-format off
     const Caso casos[] = {
-        {1,  1, "°F", "-5",           "-5"},
-        {1,  1, "K",  "-5",           "5"},
-        {1,  1, "°F", "5-",           "5"},
-        {1,  1, "°F", "--5",          "-5"},
-        {1,  1, "°F", ",",            "0."},
-        {1,  1, "°F", "-,5",          "-0.5"},
-        {1,  1, "°F", "1.2,3",        "1.23"},
-        {1,  1, "°F", "12345678901",  "1234567890"},
-        {1,  1, "°F", "12a b+e",      "12"},
-        {1,  1, "°F", "123\b\b",      "1"},
-        {1,  1, "°F", "|12a,5\n",     "12.5"},
-        {1,  1, "°F", "7|-8",         "78"},
-        {1,  4, "",   "-3.5",         "3.5"},
-        {1,  5, "",   ".",            "0"},
-        {1,  5, "",   "1.5",          "15"},
-        {1,  5, "",   "123456",       "12345"},
-        {1,  6, "",   "5",            ""},
-        {1,  6, "",   ".",            "0"},
-        {8,  5, "",   "-2.5",         "2.5"},
-        {8,  6, "",   "1,2",          "12"},
-        {13, 4, "°F", "-3",           "-3"},
-        {13, 5, "",   "-50",          "50"},
-        {13, 7, "",   "-3",           "3"},
-        {14, 8, "",   "-4.5",         "4.5"},
-        {14, 9, "",   "6.",           "6"},
+        {1,  1, "°F", "-5",          "-5"},
+        {1,  1, "K",  "-5",          "5"},
+        {1,  1, "°F", "-,5",         "-0.5"},
+        {1,  1, "°F", "12345678901", "1234567890"},
+        {1,  1, "°F", "12a b+e\b",   "1"},
+        {1,  1, "°F", "|12a,5\n",    "12.5"},
+        {1,  5, "",   "1.5",         "15"},
+        {1,  6, "",   "5",           ""},
+        {13, 4, "°F", "-3",          "-3"},
+        {14, 9, "",   "6.",          "6"},
     };
     // clang-format on
     for (const Caso& caso : casos) {
@@ -296,7 +261,7 @@ void EntradaTest::enterAvanzaYElEstadoSigueALasCajas() {
     QCOMPARE(TagDe(v), QStringLiteral("1"));
     QCOMPARE(FileStateDe(v), 2);
     // An unknown code empties the emissivity and says so.
-    Reemplazar(Caja(v, 7), QStringLiteral("99"));
+    Escribir(v, "txtValor_7", "99");
     QCOMPARE(estado->text(),
              QStringLiteral("Material Superficie Desnuda: No existe un material con código 99"));
     QCOMPARE(Caja(v, 8)->text(), QString());
@@ -331,22 +296,19 @@ void EntradaTest::validacionEnOrden() {
         const char* mensaje;
         const char* foco;
     };
+    // One refusal per window family, and a database miss; the core pins the order of checks.
     // clang-format off
     const Caso casos[] = {
-        {"velmar80.adk",            2, "700", "",   "La Temperatura de la Superficie del Aislamiento debe ser menor que la Temperatura Interior.", "txtValor_2"},
-        {"velmar80.adk",            3, "200", "",   "La Temperatura Ambiente debe ser menor que la Temperatura Superficial.", "txtValor_3"},
-        {"velmar80.adk",            1, "0",   "K",  "La Temperatura Interior no es válida.", "txtValor_1"},
-        {"nivara.adk",              5, "0",   "",   "El Diametro de la tubería a aislar no es válido.", "txtValor_5"},
-        {"nivara.adk",              5, "7",   "",   "Error inesperado: No se encontró un diámetro de 7 plg en la Base de Datos.", "cmdAceptar"},
-        {"tavelas-poliuretano.adk", 1, "100", "",   "La Temperatura Ambiente (Temperatura del Bulbo Seco) debe ser mayor que la Temperatura Interior.", "txtValor_2"},
-        {"tavelas-poliuretano.adk", 4, "95",  "",   "La Temperatura del Punto de Rocío debe ser menor que la Temperatura Ambiente.", "txtValor_4"},
-        {"orbelas-poliuretano.adk", 6, "0",   "",   "El Coeficiente de Transmisión de Calor debe ser mayor que cero.", "txtValor_6"},
+        {"velmar80.adk",            1, "0",   "K", "La Temperatura Interior no es válida.", "txtValor_1"},
+        {"nivara.adk",              5, "7",   "",  "Error inesperado: No se encontró un diámetro de 7 plg en la Base de Datos.", "cmdAceptar"},
+        {"tavelas-poliuretano.adk", 4, "95",  "",  "La Temperatura del Punto de Rocío debe ser menor que la Temperatura Ambiente.", "txtValor_4"},
+        {"orbelas-poliuretano.adk", 6, "0",   "",  "El Coeficiente de Transmisión de Calor debe ser mayor que cero.", "txtValor_6"},
     };
     // clang-format on
     for (const Caso& caso : casos) {
         BancoVentanas b;
         frmDatosEntrada* v = b.Abrir(caso.ejemplo);
-        Reemplazar(Caja(v, caso.caja), QString::fromUtf8(caso.texto));
+        Escribir(v, QStringLiteral("txtValor_%1").arg(caso.caja), QString::fromUtf8(caso.texto));
         if (*caso.unidad != '\0') {
             Seleccionar(Lista(v, caso.caja), QString::fromUtf8(caso.unidad));
         }
@@ -362,7 +324,7 @@ void EntradaTest::validacionEnOrden() {
     for (const Respuesta respuesta : {Respuesta::Cancelar, Respuesta::Aceptar}) {
         BancoVentanas b;
         frmDatosEntrada* v = b.Abrir("velmar80.adk");
-        Reemplazar(Caja(v, 1), QStringLiteral("5000"));
+        Escribir(v, "txtValor_1", "5000");
         b.prompter.respuestas = {respuesta};
         frmResultados* resultados = b.Calcular(v);
         QCOMPARE(
@@ -377,7 +339,7 @@ void EntradaTest::validacionEnOrden() {
 void EntradaTest::cambioDeUnidadSegunLaOpcion() {
     BancoVentanas b;
     frmDatosEntrada* v = b.Nueva(1);
-    QAction* conversion = Accion(b, "mnuArchivoOpcionesConverisonAutomatica");
+    QAction* conversion = Accion(&b.marco, "mnuArchivoOpcionesConverisonAutomatica");
     QVERIFY(!b.contexto.ConversionAutomatica);
     conversion->trigger();
     QVERIFY(b.contexto.ConversionAutomatica);
@@ -394,8 +356,8 @@ void EntradaTest::cambioDeUnidadSegunLaOpcion() {
         {2, "°C",   ""},
     };
     // clang-format on
-    Reemplazar(Caja(v, 1), QStringLiteral("212"));
-    Reemplazar(Caja(v, 4), QStringLiteral("10"));
+    Escribir(v, "txtValor_1", "212");
+    Escribir(v, "txtValor_4", "10");
     for (const Paso& paso : conConversion) {
         Seleccionar(Lista(v, paso.caja), QString::fromUtf8(paso.unidad));
         QCOMPARE(Caja(v, paso.caja)->text(), QString::fromUtf8(paso.texto));
@@ -436,9 +398,8 @@ void EntradaTest::emisividadEscrita() {
     BancoVentanas b;
     frmDatosEntrada* v = b.Abrir("velmar80.adk");
     QPushButton* consultar = Boton(v, "cmdConsultarMaterial_2");
-    QCOMPARE(consultar->text(), QStringLiteral("C&onsultar"));
     frmDatosEntrada* otra = b.Abrir("nivara.adk");
-    Accion(b, "mnuArchivoOpcionesLeerEmisividadBD")->trigger();
+    Accion(&b.marco, "mnuArchivoOpcionesLeerEmisividadBD")->trigger();
     // The option reaches the active window at once, the other one when it is activated.
     QCOMPARE(Boton(otra, "cmdConsultarMaterial_1")->text(), QStringLiteral("&Leer"));
     QCOMPARE(consultar->text(), QStringLiteral("C&onsultar"));
@@ -451,10 +412,6 @@ void EntradaTest::emisividadEscrita() {
     QCOMPARE(Q(b.prompter.preguntas.front().mensaje),
              QStringLiteral("Ingrese el valor de la Emisividad de la  Superficie Desnuda:"));
     QCOMPARE(b.prompter.preguntas.size(), size_t{3});
-    QCOMPARE(Q(b.prompter.mensajes[0].texto),
-             QStringLiteral("Por favor ingrese un valor numérico."));
-    QCOMPARE(Q(b.prompter.mensajes[1].texto),
-             QStringLiteral("El valor de la Emisividad debe estar entre 0 y 1."));
     QCOMPARE(Caja(v, 7)->text(), QStringLiteral("0"));
     QCOMPARE(Caja(v, 8)->text(), QStringLiteral("0.5"));
     QCOMPARE(Desacuerdo(*v), QString());
