@@ -29,6 +29,7 @@
 
 namespace kelvora {
 
+using prueba::AlOcurrir;
 using prueba::BancoVentanas;
 using prueba::Boton;
 
@@ -36,16 +37,11 @@ namespace {
 
 // The frame of the tests with the program's charts behind its Graficar menu.
 void ConGraficas(BancoVentanas& b) {
-    FabricaVentanas f;
-    f.NuevaVentanaDatos = std::bind_front(&ArchivosVentanas::NuevaVentanaDatos, b.ventanas);
-    f.LeerArchivo = std::bind_front(&ArchivosVentanas::LeerArchivo, b.ventanas);
-    f.GuardarVentana = std::bind_front(&ArchivosVentanas::GuardarVentana, b.ventanas);
-    f.PreguntarGuardar = std::bind_front(&ArchivosVentanas::PreguntarGuardar, b.ventanas);
     auto* graficas =
             new AperturaGraficas(b.marco, b.contexto, b.prompter,
                                  std::make_unique<FuenteTubosBD>(b.contexto.CadenaConexion));
-    f.Graficar = std::bind_front(&AperturaGraficas::Graficar, graficas);
-    b.marco.PonerFabrica(f);
+    b.fabrica.Graficar = std::bind_front(&AperturaGraficas::Graficar, graficas);
+    b.PonerFabrica();
 }
 
 QMenu* MenuGraficar(BancoVentanas& b) {
@@ -63,17 +59,17 @@ frmGraficas* PedirGrafica(BancoVentanas& b, frmDatosEntrada* datos, int tipo) {
 
 // Does something once, from the events that a running series lets through.
 void MientrasGrafica(BancoVentanas& b, const std::function<void(frmGraficas*)>& hacer) {
-    auto* reloj = new QTimer(&b.marco);
-    QObject::connect(reloj, &QTimer::timeout, [&b, reloj, hacer] {
+    auto ocupada = [&b] {
         for (frmGraficas* g : b.marco.findChildren<frmGraficas*>()) {
             if (g->Modelo().Ocupado()) {
-                reloj->stop();
-                hacer(g);
-                return;
+                return g;
             }
         }
-    });
-    reloj->start(0);
+        return static_cast<frmGraficas*>(nullptr);
+    };
+    AlOcurrir(
+            &b.marco, [ocupada] { return ocupada() != nullptr; },
+            [ocupada, hacer] { hacer(ocupada()); });
 }
 
 PicGrafica* Picture(const frmGraficas* g) {
@@ -133,15 +129,9 @@ void GraficasTest::menuDelBotonSerieTablaYPestanas() {
         ConGraficas(b);
         frmDatosEntrada* datos = b.Abrir(c.ejemplo);
         QPushButton* boton = Boton(datos, "cmdGraficar");
-        QVERIFY(boton->isEnabled());
         QTest::mouseClick(boton, Qt::LeftButton);
-        QMenu* menu = MenuGraficar(b);
-        QVERIFY(menu->isVisible());
-        QCOMPARE(menu->pos(), boton->mapToGlobal(QPoint(0, boton->height())));
-        for (QAction* entrada : menu->actions()) {
-            QVERIFY(entrada->isEnabled());
-        }
-        menu->hide();
+        QCOMPARE(MenuGraficar(b)->pos(), boton->mapToGlobal(QPoint(0, boton->height())));
+        MenuGraficar(b)->hide();
         frmGraficas* g = PedirGrafica(b, datos, c.tipo);
         QVERIFY(g != nullptr);
         QCOMPARE(g->windowTitle(), QString::fromUtf8(c.caption));
