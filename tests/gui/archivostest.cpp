@@ -16,6 +16,7 @@
 
 namespace kelvora {
 
+using prueba::Accion;
 using prueba::BancoVentanas;
 using prueba::Caja;
 using prueba::Ejemplo;
@@ -33,14 +34,9 @@ private slots:
     void filtrosDelDialogo();
 
 private:
-    static QAction* Accion(BancoVentanas& b, const char* nombre);
     static QByteArray Contenido(const QString& archivo);
     static QString Copia(const QTemporaryDir& carpeta, const char* ejemplo);
 };
-
-QAction* ArchivosTest::Accion(BancoVentanas& b, const char* nombre) {
-    return b.marco.findChild<QAction*>(QString::fromLatin1(nombre));
-}
 
 QByteArray ArchivosTest::Contenido(const QString& archivo) {
     QFile leido(archivo);
@@ -59,22 +55,23 @@ void ArchivosTest::guardarComoYVolverAAbrir() {
     frmDatosEntrada* v = b.Abrir("velmar80.adk");
     QCOMPARE(FileNameDe(v), Q(Ejemplo("velmar80.adk")));
     QCOMPARE(FileStateDe(v), 1);
-    QCOMPARE(Accion(b, "mnuArchivoRecientes_0")->data().toString(), Q(Ejemplo("velmar80.adk")));
+    QCOMPARE(Accion(&b.marco, "mnuArchivoRecientes_0")->data().toString(),
+             Q(Ejemplo("velmar80.adk")));
     QTest::mouseClick(Caja(v, 1), Qt::LeftButton);
     Caja(v, 1)->selectAll();
     QTest::keyClicks(Caja(v, 1), QStringLiteral("650"));
     QCOMPARE(FileStateDe(v), 2);
     const QString nuevo = carpeta.filePath(QStringLiteral("nuevo.adk"));
     b.dialogos->respuestas = {S(nuevo)};
-    Accion(b, "mnuArchivoGuardarComo")->trigger();
+    Accion(&b.marco, "mnuArchivoGuardarComo")->trigger();
     QCOMPARE(b.dialogos->pedidos.back().extension, std::string("adk"));
     QCOMPARE(b.dialogos->pedidos.back().carpetaInicial, b.contexto.RutaDatos);
     QCOMPARE(FileStateDe(v), 3);
     QCOMPARE(FileNameDe(v), nuevo);
     QVERIFY(Contenido(nuevo).contains("TemperaturaInterior = 650\r\n"));
-    QCOMPARE(Accion(b, "mnuArchivoRecientes_0")->data().toString(), nuevo);
+    QCOMPARE(Accion(&b.marco, "mnuArchivoRecientes_0")->data().toString(), nuevo);
     // Saving again writes the same file without asking.
-    Accion(b, "mnuArchivoGuardar")->trigger();
+    Accion(&b.marco, "mnuArchivoGuardar")->trigger();
     QCOMPARE(b.dialogos->pedidos.size(), size_t{1});
     QVERIFY(b.ventanas->LeerArchivo(S(nuevo)));
     auto* leida = qobject_cast<frmDatosEntrada*>(b.marco.VentanaActiva());
@@ -91,13 +88,14 @@ void ArchivosTest::guardarResultadosComoListado() {
     frmResultados* r = b.Calcular(b.Abrir("nivara.adk"));
     const QString listado = carpeta.filePath(QStringLiteral("resultados.txt"));
     b.dialogos->respuestas = {S(listado)};
-    Accion(b, "mnuArchivoGuardar")->trigger();
+    Accion(&b.marco, "mnuArchivoGuardar")->trigger();
     QCOMPARE(b.dialogos->pedidos.back().extension, std::string("txt"));
     QCOMPARE(Contenido(listado).toStdString(),
              AWindows1252(ListadoGrilla(GrillaSinVentanas(Ejemplo("nivara.adk")), 6)));
     QCOMPARE(FileStateDe(r), 3);
     // A listing is no data file: the recent list keeps the example.
-    QCOMPARE(Accion(b, "mnuArchivoRecientes_0")->data().toString(), Q(Ejemplo("nivara.adk")));
+    QCOMPARE(Accion(&b.marco, "mnuArchivoRecientes_0")->data().toString(),
+             Q(Ejemplo("nivara.adk")));
 }
 
 void ArchivosTest::mensajesDelLector() {
@@ -113,13 +111,13 @@ void ArchivosTest::mensajesDelLector() {
             "TemperaturaSuperficieAislamiento = 120\nUnidadTemperaturaSuperficieAislamiento = °F\n"
             "TemperaturaAmbiente = 80\nUnidadTemperaturaAmbiente = °F\n"
             "CodigoMaterialSuperficieAislamiento = 6\nCodigoMaterialSuperficieDesnuda = 1\n";
+    // The window's side of the reader's messages, whose texts the core pins: no window, or the
+    // question that opens it.
     // clang-format off
     const Caso casos[] = {
-        {"",                                                    Respuesta::Aceptar,  "No es posible asociar los datos leidos con alguna ventana de Entrada de Datos.", Icono::Critico,     false},
-        {"Tipo = 1\nUnidadTemperaturaInterior = XX\n",          Respuesta::Aceptar,  "Error: La Unidad 'XX' no existe para 'Temperatura'.",                              Icono::Critico,     false},
-        {"hola\nTipo = 99\n",                                   Respuesta::Cancelar, "Expresión Desconocida: hola",                                                      Icono::Exclamacion, false},
-        {sinVelocidad,                                          Respuesta::Cancelar, "Los siguientes valores no se encontraron:",                                        Icono::Informacion, false},
-        {sinVelocidad,                                          Respuesta::Aceptar,  "Los siguientes valores no se encontraron:",                                        Icono::Informacion, true},
+        {"",           Respuesta::Aceptar,  "No es posible asociar los datos leidos con alguna ventana de Entrada de Datos.", Icono::Critico,     false},
+        {sinVelocidad, Respuesta::Cancelar, "Los siguientes valores no se encontraron:",                                        Icono::Informacion, false},
+        {sinVelocidad, Respuesta::Aceptar,  "Los siguientes valores no se encontraron:",                                        Icono::Informacion, true},
     };
     // clang-format on
     QTemporaryDir carpeta;
@@ -164,7 +162,7 @@ void ArchivosTest::preguntaAlCerrar() {
     for (const Caso& caso : casos) {
         BancoVentanas b;
         if (b.contexto.PreguntarAntesDeCerrarVentana != caso.opcion) {
-            Accion(b, "mnuAOPreguntar")->trigger();
+            Accion(&b.marco, "mnuAOPreguntar")->trigger();
         }
         const QString archivo = Copia(carpeta, "velmar80.adk");
         frmDatosEntrada* v = nullptr;
@@ -185,7 +183,7 @@ void ArchivosTest::preguntaAlCerrar() {
         const QString caption = v->windowTitle();
         const QByteArray antes = Contenido(archivo);
         b.prompter.respuestas = {caso.respuesta};
-        Accion(b, "mnuArchivoCerrar")->trigger();
+        Accion(&b.marco, "mnuArchivoCerrar")->trigger();
         b.Esperar();
         QCOMPARE(b.prompter.mensajes.size(), size_t{caso.pregunta});
         if (caso.pregunta) {
