@@ -11,11 +11,11 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 
 namespace kelvora {
 
+using prueba::AlOcurrir;
 using prueba::BancoVentanas;
 using prueba::Boton;
 using prueba::Ejemplo;
@@ -38,15 +38,11 @@ private:
 // Does something once, from the events that a running calculation lets through.
 void ResultadosTest::MientrasCalcula(BancoVentanas& b,
                                      const std::function<void(frmResultados*)>& hacer) {
-    auto* reloj = new QTimer(&b.marco);
-    QObject::connect(reloj, &QTimer::timeout, [&b, reloj, hacer] {
-        auto* r = qobject_cast<frmResultados*>(b.marco.VentanaActiva());
-        if (r != nullptr && r->Calculando()) {
-            reloj->stop();
-            hacer(r);
-        }
-    });
-    reloj->start(0);
+    auto calculando = [&b] { return qobject_cast<frmResultados*>(b.marco.VentanaActiva()); };
+    AlOcurrir(
+            &b.marco,
+            [calculando] { return calculando() != nullptr && calculando()->Calculando(); },
+            [calculando, hacer] { hacer(calculando()); });
 }
 
 QTableWidget* ResultadosTest::MSFG(const frmResultados* ventana) {
