@@ -1,7 +1,5 @@
 #include "core/app/contexto.h"
 #include "core/app/opciones.h"
-#include "gui/app/mdikelvora.h"
-#include "gui/app/relojsistema.h"
 #include "gui/platform/qteventpump.h"
 #include "gui/platform/qtsettingsstore.h"
 
@@ -16,7 +14,6 @@ class PlataformaTest : public QObject {
 private slots:
     void opcionesSobreviveAlArchivoIni();
     void bombaDetectaVentanaCerrada();
-    void tituloDeLaVentanaPrincipal();
 };
 
 void PlataformaTest::opcionesSobreviveAlArchivoIni() {
@@ -45,16 +42,6 @@ void PlataformaTest::bombaDetectaVentanaCerrada() {
     QVERIFY(bomba.DoEvents());
     delete ventana;
     QVERIFY(!bomba.DoEvents());
-}
-
-void PlataformaTest::tituloDeLaVentanaPrincipal() {
-    ContextoAplicacion contexto;
-    QTemporaryDir carpeta;
-    QtSettingsStore ajustes(carpeta.filePath(QStringLiteral("Kelvora.ini")));
-    RelojSistema reloj;
-    mdiKelvora ventana(contexto, ajustes, reloj);
-    QCOMPARE(ventana.windowTitle(),
-             QStringLiteral("Fornalis S.A. - Cálculo de Aislamiento Óptimo - Kelvora"));
 }
 
 }  // namespace kelvora
