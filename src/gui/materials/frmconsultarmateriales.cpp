@@ -2,6 +2,7 @@
 
 #include "gui/materials/teclasmateriales.h"
 #include "gui/platform/texto.h"
+#include "gui/thermal/tablagrilla.h"
 #include "ui_frmconsultarmateriales.h"
 
 #include <QHeaderView>
@@ -31,17 +32,6 @@ bool MismasCeldas(const Grilla& a, const Grilla& b) {
         }
     }
     return true;
-}
-
-Qt::Alignment AlineacionDe(Alineacion alineacion) {
-    switch (alineacion) {
-        case Alineacion::Centro:
-            return Qt::AlignCenter;
-        case Alineacion::Derecha:
-            return Qt::AlignRight | Qt::AlignVCenter;
-        default:
-            return Qt::AlignLeft | Qt::AlignVCenter;
-    }
 }
 
 void LlenarLista(QComboBox& lista, const std::vector<std::string>& entradas, int indice) {

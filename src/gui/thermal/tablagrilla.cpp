@@ -9,17 +9,6 @@ namespace kelvora {
 
 namespace {
 
-Qt::Alignment AlineacionDe(Alineacion alineacion) {
-    switch (alineacion) {
-        case Alineacion::Centro:
-            return Qt::AlignCenter;
-        case Alineacion::Derecha:
-            return Qt::AlignRight | Qt::AlignVCenter;
-        default:
-            return Qt::AlignLeft | Qt::AlignVCenter;
-    }
-}
-
 QColor ColorDe(const TablaColores& colores, int indice) {
     const Color c = colores.at(static_cast<size_t>(indice));
     return QColor(Rojo(c), Verde(c), Azul(c));
@@ -63,6 +52,17 @@ void CombinarFila(QTableWidget& tabla, const Grilla& grilla, int fila) {
 }
 
 }  // namespace
+
+Qt::Alignment AlineacionDe(Alineacion alineacion) {
+    switch (alineacion) {
+        case Alineacion::Centro:
+            return Qt::AlignCenter;
+        case Alineacion::Derecha:
+            return Qt::AlignRight | Qt::AlignVCenter;
+        default:
+            return Qt::AlignLeft | Qt::AlignVCenter;
+    }
+}
 
 void MostrarGrilla(QTableWidget& tabla, const Grilla& grilla, const TablaColores& colores) {
     tabla.setUpdatesEnabled(false);

@@ -3,11 +3,16 @@
 #include "core/app/colores.h"
 #include "core/reports/grilla.h"
 
+#include <Qt>
+
 #include <vector>
 
 class QTableWidget;
 
 namespace kelvora {
+
+/// A cell's alignment as Qt has it, centred vertically.
+Qt::Alignment AlineacionDe(Alineacion alineacion);
 
 /// Shows a grid in a table widget: the texts, bold, alignment, the colours of the application's
 /// table, each merged row's equal neighbouring cells as one span, and row heights as multiples
