@@ -209,6 +209,39 @@ std::vector<CampoEntrada> CamposFrio() {
     };
 }
 
+// The two cold windows share their temperature comparisons, lower bounds and the head of
+// their routine's arguments; only the box numbers of the jacket material differ.
+std::vector<ComparacionTemperaturas> ComparacionesFrio() {
+    return {
+        {1, 2, false, "La Temperatura Ambiente (Temperatura del Bulbo Seco) debe ser mayor que la Temperatura Interior.", 2},
+        {2, 4, true,  "La Temperatura del Punto de Rocío debe ser menor que la Temperatura Ambiente.",                    4},
+    };
+}
+
+std::vector<CotaInferior> CotasFrio() { return {{5, false, "La "}, {6, true, "El "}}; }
+
+std::vector<ArgumentoCalculo> ArgumentosFrio(int cajaCodigo, int cajaEmisividad,
+                                             const std::vector<ArgumentoCalculo>& resto) {
+    std::vector<ArgumentoCalculo> argumentos = {
+        {"TemperaturaInterior",                 Conv, 1, "°F",   0},
+        {"TemperaturaSuperficie",               Conv, 4, "°F",   1.0},
+        {"TemperaturaAmbiente",                 Conv, 2, "°F",   0},
+        {"TemperaturaBulboHumedo",              Conv, 3, "°F",   0},
+        {"hayTBH",                              Hay,  3, "",     0},
+        {"TemperaturaPuntoRocio",               Conv, 4, "°F",   0},
+        {"unidades",                            Unid, 0, "",     0},
+        {"VelocidadAire",                       Conv, 7, "mi/h", 0},
+        {"HumedadRelativa",                     Num,  5, "",     0},
+        {"hayHR",                               Hay,  5, "",     0},
+        {"CoeficienteTransmisionCalor",         Num,  6, "",     0},
+        {"CodigoMaterialSuperficieAislamiento", Ent,  cajaCodigo, "", 0},
+        {"EmisividadSuperficieAislamiento",     Num,  cajaEmisividad, "", 0},
+        {"NombreMaterialAislamiento",           Nom,  1, "",     0},
+    };
+    argumentos.insert(argumentos.end(), resto.begin(), resto.end());
+    return argumentos;
+}
+
 DescripcionEntrada PlanasFrio() {
     std::vector<CampoEntrada> campos = CamposFrio();
     campos.insert(campos.end(), {
@@ -226,31 +259,14 @@ DescripcionEntrada PlanasFrio() {
         {{"13SPF", "Tavelas de Poliuretano"}},
         "Tavelas de Poliuretano",
         7,
-        {
-            {1, 2, false, "La Temperatura Ambiente (Temperatura del Bulbo Seco) debe ser mayor que la Temperatura Interior.", 2},
-            {2, 4, true,  "La Temperatura del Punto de Rocío debe ser menor que la Temperatura Ambiente.",                    4},
-        },
-        {{5, false, "La "}, {6, true, "El "}},
+        ComparacionesFrio(),
+        CotasFrio(),
         {1, 4, 2, 3, 4},
-        {
-            {"TemperaturaInterior",                 Conv,  1, "°F",   0},
-            {"TemperaturaSuperficie",               Conv,  4, "°F",   1.0},
-            {"TemperaturaAmbiente",                 Conv,  2, "°F",   0},
-            {"TemperaturaBulboHumedo",              Conv,  3, "°F",   0},
-            {"hayTBH",                              Hay,   3, "",     0},
-            {"TemperaturaPuntoRocio",               Conv,  4, "°F",   0},
-            {"unidades",                            Unid,  0, "",     0},
-            {"VelocidadAire",                       Conv,  7, "mi/h", 0},
-            {"HumedadRelativa",                     Num,   5, "",     0},
-            {"hayHR",                               Hay,   5, "",     0},
-            {"CoeficienteTransmisionCalor",         Num,   6, "",     0},
-            {"CodigoMaterialSuperficieAislamiento", Ent,   8, "",     0},
-            {"EmisividadSuperficieAislamiento",     Num,   9, "",     0},
-            {"NombreMaterialAislamiento",           Nom,   1, "",     0},
+        ArgumentosFrio(8, 9, {
             {"CodigoMaterialSuperficieDesnuda",     Ent,  10, "",     0},
             {"EmisividadSuperficieDesnuda",         Num,  11, "",     0},
             {"NombreMaterialDesnuda",               Nom,   2, "",     0},
-        },
+        }),
     };
 }
 
@@ -270,30 +286,13 @@ DescripcionEntrada CilindricasFrio() {
         {{"14SCF", "Orbelas de Poliuretano"}},
         "Orbelas de Poliuretano",
         8,
-        {
-            {1, 2, false, "La Temperatura Ambiente (Temperatura del Bulbo Seco) debe ser mayor que la Temperatura Interior.", 2},
-            {2, 4, true,  "La Temperatura del Punto de Rocío debe ser menor que la Temperatura Ambiente.",                    4},
-        },
-        {{5, false, "La "}, {6, true, "El "}},
+        ComparacionesFrio(),
+        CotasFrio(),
         {1, 4, 2, 3, 4},
-        {
-            {"TemperaturaInterior",                 Conv,  1, "°F",   0},
-            {"TemperaturaSuperficie",               Conv,  4, "°F",   1.0},
-            {"TemperaturaAmbiente",                 Conv,  2, "°F",   0},
-            {"TemperaturaBulboHumedo",              Conv,  3, "°F",   0},
-            {"hayTBH",                              Hay,   3, "",     0},
-            {"TemperaturaPuntoRocio",               Conv,  4, "°F",   0},
-            {"unidades",                            Unid,  0, "",     0},
-            {"VelocidadAire",                       Conv,  7, "mi/h", 0},
-            {"HumedadRelativa",                     Num,   5, "",     0},
-            {"hayHR",                               Hay,   5, "",     0},
-            {"CoeficienteTransmisionCalor",         Num,   6, "",     0},
-            {"CodigoMaterialSuperficieAislamiento", Ent,   9, "",     0},
-            {"EmisividadSuperficieAislamiento",     Num,  10, "",     0},
-            {"NombreMaterialAislamiento",           Nom,   1, "",     0},
+        ArgumentosFrio(9, 10, {
             // The diameter goes as typed: its list's unit is shown and stored, not converted.
             {"DiametroTuberia",                     Num,   8, "",     0},
-        },
+        }),
     };
 }
 // clang-format on
