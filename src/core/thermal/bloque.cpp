@@ -28,4 +28,12 @@ void EscribirBloque(std::vector<double>& resultados, int bloque, const EntradasB
     }
 }
 
+void EscribirPosicion(std::vector<double>& resultados, std::size_t posicion,
+                      const EntradasBloque& entradas, const BloqueCalculo& ideal,
+                      const BloqueCalculo& practico) {
+    const int bloque = static_cast<int>(2 * posicion);
+    EscribirBloque(resultados, bloque, entradas, ideal);
+    EscribirBloque(resultados, bloque + 1, entradas, practico);
+}
+
 }  // namespace kelvora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <vector>
 
 namespace kelvora {
@@ -31,5 +32,10 @@ struct EntradasBloque {
 /// Writes block b (from 0) into the slots after 17 · b; the seventeenth slot stays as it is.
 void EscribirBloque(std::vector<double>& resultados, int bloque, const EntradasBloque& entradas,
                     const BloqueCalculo& valores);
+
+/// Writes position p's (from 0) ideal and practical blocks, blocks 2p and 2p + 1.
+void EscribirPosicion(std::vector<double>& resultados, std::size_t posicion,
+                      const EntradasBloque& entradas, const BloqueCalculo& ideal,
+                      const BloqueCalculo& practico);
 
 }  // namespace kelvora

@@ -280,9 +280,7 @@ void CalculoSC::Mostrar() {
             mA.VelocidadAire,
             {mA.DiametroTuberia, static_cast<double>(mA.CodigoMaterialSuperficieAislamiento), mEs}};
     for (size_t i = 0; i < mTramos.size(); ++i) {
-        const int bloque = static_cast<int>(2 * i);
-        EscribirBloque(resultados, bloque, entradas, mTramos[i].ideal);
-        EscribirBloque(resultados, bloque + 1, entradas, mTramos[i].practico);
+        EscribirPosicion(resultados, i, entradas, mTramos[i].ideal, mTramos[i].practico);
     }
     mVentana.MostrarResultados(resultados, mA.unidades);
 }

@@ -232,9 +232,8 @@ void CalculoSP::Mostrar() {
             mA.VelocidadAire,
             {static_cast<double>(mA.CodigoMaterialSuperficieAislamiento), mEs, mEd}};
     for (size_t i = 0; i < mPosiciones.size(); ++i) {
-        const int bloque = static_cast<int>(2 * i);
-        EscribirBloque(resultados, bloque, entradas, mPosiciones[i].bloqueIdeal);
-        EscribirBloque(resultados, bloque + 1, entradas, mPosiciones[i].bloquePractico);
+        EscribirPosicion(resultados, i, entradas, mPosiciones[i].bloqueIdeal,
+                         mPosiciones[i].bloquePractico);
     }
     mVentana.MostrarResultados(resultados, mA.unidades);
 }

@@ -158,9 +158,7 @@ void CalculoSPFrio::Mostrar() {
                                   {static_cast<double>(mA.CodigoMaterialSuperficieAislamiento), mEs,
                                    mA.EmisividadSuperficieDesnuda}};
     for (size_t i = 0; i < mPosiciones.size(); ++i) {
-        const int bloque = static_cast<int>(2 * i);
-        EscribirBloque(resultados, bloque, entradas, mPosiciones[i].ideal);
-        EscribirBloque(resultados, bloque + 1, entradas, mPosiciones[i].practico);
+        EscribirPosicion(resultados, i, entradas, mPosiciones[i].ideal, mPosiciones[i].practico);
     }
     mVentana.MostrarResultados(resultados, mA.unidades);
 }
