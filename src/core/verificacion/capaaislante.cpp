@@ -49,25 +49,31 @@ LeyConductividad ConductividadProducto(int codigo) {
 
 // The balance of conduction against the film changes sign once between TI and TA; bisection
 // moves toward TI while conduction still exceeds what the film carries away.
-EstadoSuperficie SuperficieConEspesor(const SistemaAislado& s, double E) {
+EstadoSuperficie SuperficieConEspesor(const SistemaAislado& s, double E,
+                                      const FormulaPelicula& pelicula) {
     const double diametro = s.D + 2 * E;
     if (E <= 0) {
-        return {s.TI, FlujoModerno(s.posicion, s.TI, s.Es, diametro, s.aire)};
+        return {s.TI, pelicula(s.TI, diametro)};
     }
     const double sentido = Caliente(s) ? 1 : -1;
     double haciaAire = s.aire.TA;
     double haciaInterior = s.TI;
     for (int paso = 0; paso < kPasosBiseccion; ++paso) {
         const double T = (haciaAire + haciaInterior) / 2;
-        const double pelicula = FlujoModerno(s.posicion, T, s.Es, diametro, s.aire).Qt();
-        if ((Conduccion(s, E, T) - pelicula) * sentido > 0) {
+        if ((Conduccion(s, E, T) - pelicula(T, diametro).Qt()) * sentido > 0) {
             haciaAire = T;
         } else {
             haciaInterior = T;
         }
     }
     const double TS = (haciaAire + haciaInterior) / 2;
-    return {TS, FlujoModerno(s.posicion, TS, s.Es, diametro, s.aire)};
+    return {TS, pelicula(TS, diametro)};
+}
+
+EstadoSuperficie SuperficieConEspesor(const SistemaAislado& s, double E) {
+    return SuperficieConEspesor(s, E, [&s](double T, double D) {
+        return FlujoModerno(s.posicion, T, s.Es, D, s.aire);
+    });
 }
 
 double FlujoMostrado(const SistemaAislado& s, double E, const EstadoSuperficie& estado) {

@@ -2,6 +2,7 @@
 
 #include "core/verificacion/peliculamoderna.h"
 
+#include <functional>
 #include <optional>
 
 namespace kelvora {
@@ -37,8 +38,15 @@ struct EstadoSuperficie {
     FlujoSuperficie flujo;
 };
 
+/// The flows leaving a surface at T (°F) whose outer diameter is D plg.
+using FormulaPelicula = std::function<FlujoSuperficie(double T, double D)>;
+
 /// The outer face of E plg of insulation, where conduction through the layer, with k integrated
 /// over the temperatures it spans, meets the film. E = 0 is the bare surface.
+EstadoSuperficie SuperficieConEspesor(const SistemaAislado& sistema, double E,
+                                      const FormulaPelicula& pelicula);
+
+/// The same with the film of the modern method.
 EstadoSuperficie SuperficieConEspesor(const SistemaAislado& sistema, double E);
 
 /// Total flow of a state as the program shows it: per pie² h on a flat surface, per foot of
