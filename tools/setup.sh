@@ -5,7 +5,7 @@ set -euo pipefail
 paquetes=(
     build-essential cmake ninja-build pkg-config
     qt6-base-dev qt6-base-dev-tools libqt6svg6-dev libgl-dev
-    libsqlite3-dev sqlite3
+    libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev googletest libbenchmark-dev
     xvfb xauth fonts-liberation locales clang-format poppler-utils
 )

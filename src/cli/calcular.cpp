@@ -14,6 +14,9 @@
 #include "core/platform/settingsmemoria.h"
 #include "core/runtime/texto.h"
 
+#include <CLI/CLI.hpp>
+#include <array>
+#include <charconv>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -23,32 +26,16 @@ namespace kelvora::cli {
 
 namespace {
 
-constexpr const char* kUso = "Uso: kelvora-cli calcular ARCHIVO.adk... [--json] [--sin-bd]";
-
 struct OpcionesCalcular {
     bool json = false;
+    bool csv = false;
     bool sinBD = false;
     std::vector<std::string> archivos;
 };
 
-std::optional<OpcionesCalcular> LeerOpcionesCalcular(const Argumentos& argumentos) {
-    OpcionesCalcular opciones;
-    for (const std::string& argumento : argumentos) {
-        if (argumento == "--json") {
-            opciones.json = true;
-        } else if (argumento == "--sin-bd") {
-            opciones.sinBD = true;
-        } else if (argumento.starts_with("-")) {
-            std::cerr << "Opción desconocida: " << argumento << '\n';
-            return std::nullopt;
-        } else {
-            opciones.archivos.push_back(argumento);
-        }
-    }
-    if (opciones.archivos.empty()) {
-        return std::nullopt;
-    }
-    return opciones;
+// "-" reads the project from standard input.
+std::string RutaLectura(const std::string& archivo) {
+    return archivo == "-" ? "/dev/stdin" : archivo;
 }
 
 std::string CarpetaEjecutable() {
@@ -132,7 +119,8 @@ public:
     /// "C&alcular": true when the results stand.
     bool Calcular();
     ArchivoAbierto Abierto();
-    std::string Json() const;
+    std::string ComoJson() const;
+    std::string ComoCsv() const;
     std::string Listado() const;
 
 private:
@@ -185,8 +173,9 @@ bool CalculoArchivo::Ejecutar() {
 
 bool CalculoArchivo::Abrir() {
     EntornoArchivos entorno{mContexto, mPrompter, mAjustes};
-    const bool leido = LeerArchivo(
-            mArchivo, entorno, [this](VentanaEntrada, int16_t Tipo) { return CrearVentana(Tipo); });
+    const bool leido =
+            LeerArchivo(RutaLectura(mArchivo), entorno,
+                        [this](VentanaEntrada, int16_t Tipo) { return CrearVentana(Tipo); });
     if (!leido || !mModelo) {
         return false;
     }
@@ -207,68 +196,103 @@ ArchivoAbierto CalculoArchivo::Abierto() {
     return {mContexto, mPrompter, mBomba, *mTubos, *mModelo, mBien ? mDestino->Ventana() : nullptr};
 }
 
-void EscribirValor(EscritorJson& json, const ValorPublico& valor) {
+Json Valor(const ValorPublico& valor) {
     if (const std::string* texto = std::get_if<std::string>(&valor)) {
-        json.Texto(*texto);
-    } else if (const double* numero = std::get_if<double>(&valor)) {
-        json.Numero(*numero);
-    } else {
-        json.Booleano(std::get<bool>(valor));
+        return *texto;
     }
+    if (const double* numero = std::get_if<double>(&valor)) {
+        return *numero;
+    }
+    return std::get<bool>(valor);
 }
 
-void EscribirMensajes(EscritorJson& json, const std::vector<Mensaje>& mensajes) {
-    json.Clave("mensajes").AbrirLista();
+Json Mensajes(const std::vector<Mensaje>& mensajes) {
+    Json lista = Json::array();
     for (const Mensaje& mensaje : mensajes) {
-        json.AbrirObjeto()
-                .Clave("texto")
-                .Texto(mensaje.texto)
-                .Clave("icono")
-                .Texto(NombreIcono(mensaje.icono))
-                .Clave("botones")
-                .Texto(NombreBotones(mensaje))
-                .CerrarObjeto();
+        lista.push_back({{"texto", mensaje.texto},
+                         {"icono", NombreIcono(mensaje.icono)},
+                         {"botones", NombreBotones(mensaje)}});
     }
-    json.CerrarLista();
+    return lista;
 }
 
-void EscribirResultados(EscritorJson& json, const ModeloResultados* resultados) {
-    json.Clave("resultados").AbrirLista();
-    for (const double valor :
-         resultados ? resultados->ResultadosCalculo() : std::vector<double>{}) {
-        json.Numero(valor);
+void EscribirResultados(Json& json, const ModeloResultados* resultados) {
+    json["resultados"] = resultados ? resultados->ResultadosCalculo() : std::vector<double>{};
+    Json& valores = json["valores"] = Json::object();
+    Json& tabla = json["tabla"] = Json::array();
+    if (resultados == nullptr) {
+        return;
     }
-    json.CerrarLista().Clave("valores").AbrirObjeto();
-    for (const auto& [nombre, valor] :
-         resultados ? resultados->Valores().Todos() : std::vector<ValoresPublicos::Entrada>{}) {
-        EscribirValor(json.Clave(nombre), valor);
+    for (const auto& [nombre, valor] : resultados->Valores().Todos()) {
+        valores[nombre] = Valor(valor);
     }
-    json.CerrarObjeto().Clave("tabla").AbrirLista();
-    for (int fila = 0; resultados && fila < resultados->MSFG().Rows(); ++fila) {
-        json.AbrirLista();
+    for (int fila = 0; fila < resultados->MSFG().Rows(); ++fila) {
+        Json celdas = Json::array();
         for (int columna = 0; columna < resultados->MSFG().Cols(); ++columna) {
-            json.Texto(resultados->MSFG().TextMatrix(fila, columna));
+            celdas.push_back(resultados->MSFG().TextMatrix(fila, columna));
         }
-        json.CerrarLista();
+        tabla.push_back(std::move(celdas));
     }
-    json.CerrarLista();
 }
 
-std::string CalculoArchivo::Json() const {
-    const ModeloResultados* resultados = mBien ? mDestino->Ventana() : nullptr;
-    EscritorJson json;
-    json.AbrirObjeto().Clave("archivo").Texto(mArchivo);
-    json.Clave("tipo").Numero(mModelo ? mModelo->TipoAnalisis() : 0).Clave("ventana");
-    if (mModelo) {
-        json.Texto(NombreAnalisis(mModelo->Ventana().analisis));
-    } else {
-        json.Nulo();
+std::string CalculoArchivo::ComoJson() const {
+    cli::Json json = {{"archivo", mArchivo}, {"tipo", mModelo ? mModelo->TipoAnalisis() : 0}};
+    json["ventana"] = mModelo ? cli::Json(NombreAnalisis(mModelo->Ventana().analisis)) : nullptr;
+    json["ok"] = mBien;
+    json["mensajes"] = Mensajes(mPrompter.Mostrados());
+    EscribirResultados(json, mBien ? mDestino->Ventana() : nullptr);
+    return TextoJson(json);
+}
+
+// A spreadsheet's field: quoted when it holds a comma, a quote or a line end.
+std::string CampoCsv(const std::string& texto) {
+    if (texto.find_first_of(",\"\r\n") == std::string::npos) {
+        return texto;
     }
-    json.Clave("ok").Booleano(mBien);
-    EscribirMensajes(json, mPrompter.Mostrados());
-    EscribirResultados(json, resultados);
-    json.CerrarObjeto();
-    return json.Resultado();
+    std::string campo = "\"";
+    for (const char caracter : texto) {
+        campo += caracter == '"' ? "\"\"" : std::string(1, caracter);
+    }
+    return campo + "\"";
+}
+
+// The shortest text that reads back as the same number, with a point whatever the locale.
+std::string NumeroCsv(double numero) {
+    std::array<char, 32> texto{};
+    const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), numero);
+    return std::string(texto.data(), fin.ptr);
+}
+
+constexpr int kPosicionesCsv = 3;
+// Offsets in a block of the thickness and of the total heat flow.
+constexpr int kRanuraEspesor = kFilaEspesor;
+constexpr int kRanuraQt = 14;
+
+constexpr const char* kCabeceraCsv =
+        "archivo,tipo,analisis,ok,E_1,Qt_1,E_2,Qt_2,E_3,Qt_3,unidad_E,unidad_Qt\n";
+
+std::string CalculoArchivo::ComoCsv() const {
+    const ModeloResultados* resultados = mBien ? mDestino->Ventana() : nullptr;
+    std::string fila = CampoCsv(mArchivo) + ',' +
+                       (mModelo ? std::to_string(mModelo->TipoAnalisis()) + ',' +
+                                          NombreAnalisis(mModelo->Ventana().analisis)
+                                : std::string(",")) +
+                       (mBien ? ",true" : ",false");
+    const int posiciones =
+            resultados ? static_cast<int>(resultados->Ventana().posiciones.size()) : 0;
+    for (int p = 0; p < kPosicionesCsv; ++p) {
+        // The practical block of position p is block 2p + 1.
+        const int base = (2 * p + 1) * kFilasPorBloque;
+        fila += p < posiciones ? ',' + NumeroCsv(resultados->Resultado(base + kRanuraEspesor)) +
+                                         ',' + NumeroCsv(resultados->Resultado(base + kRanuraQt))
+                               : std::string(",,");
+    }
+    if (resultados != nullptr) {
+        const auto& datos = resultados->Ventana().datos;
+        return fila + ',' + CampoCsv(datos[kRanuraEspesor - 1].unidad) + ',' +
+               CampoCsv(datos[kRanuraQt - 1].unidad) + '\n';
+    }
+    return fila + ",,\n";
 }
 
 std::string CalculoArchivo::Listado() const {
@@ -281,23 +305,40 @@ std::string CalculoArchivo::Listado() const {
     return ListadoGrilla(grilla, NumeroTag(resultados->Ventana().tag));
 }
 
-}  // namespace
-
-int ComandoCalcular(const Argumentos& argumentos) {
-    const std::optional<OpcionesCalcular> opciones = LeerOpcionesCalcular(argumentos);
-    if (!opciones) {
-        std::cerr << kUso << '\n';
-        return kSalidaUso;
+int Calcular(const OpcionesCalcular& opciones) {
+    if (opciones.csv) {
+        std::cout << kCabeceraCsv;
     }
     int salida = kSalidaBien;
-    for (const std::string& archivo : opciones->archivos) {
-        CalculoArchivo calculo(archivo, *opciones);
+    for (const std::string& archivo : opciones.archivos) {
+        CalculoArchivo calculo(archivo, opciones);
         if (!calculo.Ejecutar()) {
             salida = kSalidaDetenido;
         }
-        std::cout << (opciones->json ? calculo.Json() + '\n' : calculo.Listado()) << std::flush;
+        std::cout << (opciones.json  ? calculo.ComoJson() + '\n'
+                      : opciones.csv ? calculo.ComoCsv()
+                                     : calculo.Listado())
+                  << std::flush;
     }
     return salida;
+}
+
+}  // namespace
+
+Ejecucion DeclararCalcular(CLI::App& comando) {
+    auto opciones = std::make_shared<OpcionesCalcular>();
+    comando.add_option("ARCHIVO", opciones->archivos,
+                       "Proyectos .adk; «-» lee uno de la entrada estándar.")
+            ->required();
+    CLI::Option* json = comando.add_flag("--json", opciones->json,
+                                         "Un objeto JSON por proyecto, en una línea: mensajes, "
+                                         "ranuras de resultados, valores y tabla.");
+    comando.add_flag("--csv", opciones->csv,
+                     "Una fila CSV por proyecto: espesor práctico (E) y pérdida total (Qt) de "
+                     "cada posición.")
+            ->excludes(json);
+    comando.add_flag("--sin-bd", opciones->sinBD, "Calcula sin la base de datos de materiales.");
+    return [opciones] { return Calcular(*opciones); };
 }
 
 int ConArchivo(const std::string& archivo, bool sinBD, bool calcular,

@@ -16,9 +16,9 @@ class Prompter;
 
 namespace kelvora::cli {
 
-/// calcular ARCHIVO.adk... [--json] [--sin-bd]: opens each data file as the program does and
-/// presses "C&alcular"; prints the results listing, or one JSON object per file.
-int ComandoCalcular(const Argumentos& argumentos);
+/// calcular ARCHIVO.adk... [--json | --csv] [--sin-bd]: opens each data file as the program does
+/// and presses "C&alcular"; prints the results listing, one JSON object or one CSV row per file.
+Ejecucion DeclararCalcular(CLI::App& comando);
 
 /// What a data file opened as `calcular` opens it offers to another command.
 struct ArchivoAbierto {

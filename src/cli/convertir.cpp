@@ -7,6 +7,8 @@
 #include "core/units/catalogo.h"
 #include "core/units/unidades.h"
 
+#include <CLI/CLI.hpp>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <iostream>
@@ -43,11 +45,6 @@ std::string TextoConPunto(double valor) {
     return texto.substr(0, pos) + "." + texto.substr(pos + decimal.size());
 }
 
-int Uso(const char* uso) {
-    std::cerr << "Uso: kelvora-cli " << uso << '\n';
-    return kSalidaUso;
-}
-
 void ListarFamilias() {
     for (const FamiliaCatalogo& familia : CatalogoUnidades()) {
         std::cout << familia.nombre << '\n';
@@ -67,19 +64,14 @@ int ListarUnidades(const std::string& familia) {
     return kSalidaBien;
 }
 
-}  // namespace
-
-int ComandoConvertir(const Argumentos& argumentos) {
-    if (argumentos.size() != 3) {
-        return Uso("convertir VALOR DESDE HASTA");
-    }
-    const std::optional<double> valor = LeerValor(argumentos[0]);
+int Convertir(const std::string& texto, const std::string& desde, const std::string& hasta) {
+    const std::optional<double> valor = LeerValor(texto);
     if (!valor) {
-        std::cerr << "El valor no es un número: " << argumentos[0] << '\n';
+        std::cerr << "El valor no es un número: " << texto << '\n';
         return kSalidaUso;
     }
     try {
-        const double resultado = classUnidades().Convert(*valor, argumentos[1], argumentos[2]);
+        const double resultado = classUnidades().Convert(*valor, desde, hasta);
         std::cout << TextoConPunto(resultado) << '\n';
         return kSalidaBien;
     } catch (const RuntimeError& error) {
@@ -88,15 +80,33 @@ int ComandoConvertir(const Argumentos& argumentos) {
     }
 }
 
-int ComandoUnidades(const Argumentos& argumentos) {
-    if (argumentos.size() > 1) {
-        return Uso("unidades [FAMILIA]");
-    }
-    if (argumentos.empty()) {
-        ListarFamilias();
-        return kSalidaBien;
-    }
-    return ListarUnidades(argumentos[0]);
+}  // namespace
+
+Ejecucion DeclararConvertir(CLI::App& comando) {
+    auto argumentos = std::make_shared<std::array<std::string, 3>>();
+    comando.add_option("VALOR", (*argumentos)[0], "El valor, con punto o coma decimal.")
+            ->required();
+    comando.add_option("DESDE", (*argumentos)[1], "Símbolo de la unidad del valor (p. ej. °F).")
+            ->required();
+    comando.add_option("HASTA", (*argumentos)[2], "Símbolo de la unidad pedida (p. ej. °C).")
+            ->required();
+    return [argumentos] {
+        const auto& [valor, desde, hasta] = *argumentos;
+        return Convertir(valor, desde, hasta);
+    };
+}
+
+Ejecucion DeclararUnidades(CLI::App& comando) {
+    auto familia = std::make_shared<std::string>();
+    const CLI::Option* dada = comando.add_option(
+            "FAMILIA", *familia, "Una familia de unidades; sin ella, la lista de las familias.");
+    return [familia, dada] {
+        if (dada->count() == 0) {
+            ListarFamilias();
+            return kSalidaBien;
+        }
+        return ListarUnidades(*familia);
+    };
 }
 
 }  // namespace kelvora::cli

@@ -5,9 +5,9 @@
 namespace kelvora::cli {
 
 /// convertir VALOR DESDE HASTA: the converted value as its default text, with the point.
-int ComandoConvertir(const Argumentos& argumentos);
+Ejecucion DeclararConvertir(CLI::App& comando);
 
 /// unidades [FAMILIA]: the families, or the units of one family with their names.
-int ComandoUnidades(const Argumentos& argumentos);
+Ejecucion DeclararUnidades(CLI::App& comando);
 
 }  // namespace kelvora::cli

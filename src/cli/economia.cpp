@@ -10,6 +10,7 @@
 #include "core/runtime/texto.h"
 #include "core/thermal/modeloresultados.h"
 
+#include <CLI/CLI.hpp>
 #include <charconv>
 #include <chrono>
 #include <cmath>
@@ -21,15 +22,27 @@ namespace kelvora::cli {
 
 namespace {
 
-constexpr const char* kUso =
-        "Uso: kelvora-cli economia ARCHIVO.adk [--areas A,B,C | --longitudes A,B] [--unidad U] "
-        "[--horas H] [--combustible NOMBRE] [--nombre N] [--poder P] [--valor V] [--moneda M] "
-        "[--eficiencia E] [--json] [--sin-bd]";
+// The options that take a value, with their help.
+struct OpcionConValor {
+    const char* nombre;
+    const char* valor;
+    const char* ayuda;
+};
 
-// Options that take a value, and the two that stand alone.
-const std::vector<std::string> kConValor = {"--areas",       "--longitudes", "--unidad", "--horas",
-                                            "--combustible", "--nombre",     "--poder",  "--valor",
-                                            "--moneda",      "--eficiencia"};
+// clang-format off
+const std::vector<OpcionConValor> kConValor = {
+        {"--areas", "A,B,C", "Áreas de las tres posiciones de la superficie plana."},
+        {"--longitudes", "A,B", "Longitudes de tubería vertical y horizontal."},
+        {"--unidad", "UNIDAD", "Unidad de las áreas o longitudes (p. ej. m²)."},
+        {"--horas", "H", "Horas de operación al año."},
+        {"--combustible", "NOMBRE", "Combustible utilizado, de la lista, u Otro."},
+        {"--nombre", "NOMBRE", "Nombre del combustible, con --combustible Otro."},
+        {"--poder", "P", "Poder calorífico del combustible, con --combustible Otro."},
+        {"--valor", "V", "Valor del combustible."},
+        {"--moneda", "MONEDA", "Moneda del valor, como en la ventana."},
+        {"--eficiencia", "E", "Eficiencia del equipo, en %."},
+};
+// clang-format on
 
 struct OpcionesEconomia {
     std::string archivo;
@@ -42,36 +55,6 @@ struct OpcionesEconomia {
         return it == valores.end() ? nullptr : &it->second;
     }
 };
-
-bool ConValor(const std::string& opcion) {
-    for (const std::string& nombre : kConValor) {
-        if (nombre == opcion) {
-            return true;
-        }
-    }
-    return false;
-}
-
-std::optional<OpcionesEconomia> LeerOpciones(const Argumentos& argumentos) {
-    OpcionesEconomia opciones;
-    for (size_t i = 0; i < argumentos.size(); ++i) {
-        const std::string& a = argumentos[i];
-        if (a == "--json" || a == "--sin-bd") {
-            (a == "--json" ? opciones.json : opciones.sinBD) = true;
-        } else if (ConValor(a) && i + 1 < argumentos.size()) {
-            opciones.valores[a] = argumentos[++i];
-        } else if (a.starts_with("-") || !opciones.archivo.empty()) {
-            std::cerr << "Opción desconocida o sin valor: " << a << '\n';
-            return std::nullopt;
-        } else {
-            opciones.archivo = a;
-        }
-    }
-    if (opciones.archivo.empty()) {
-        return std::nullopt;
-    }
-    return opciones;
-}
 
 // A number as a box takes it: a point or a comma as the decimal mark, written with the point.
 std::optional<std::string> TextoNumerico(std::string texto) {
@@ -299,69 +282,62 @@ void ImprimirTexto(const ModeloEconomico& m) {
     std::cout << kCostoAislada << ": " << Monto(m, m.CostoTotalSA()) << '\n';
 }
 
-void ListaNumeros(EscritorJson& json, const char* clave, const std::vector<double>& numeros) {
-    json.Clave(clave).AbrirLista();
-    for (const double numero : numeros) {
-        json.Numero(numero);
-    }
-    json.CerrarLista();
-}
-
-void Entradas(EscritorJson& json, const ModeloEconomico& m) {
+Json Entradas(const ModeloEconomico& m) {
     const DatosAhorro& d = m.DatosCalculo();
     const VentanaEconomica& v = m.Ventana();
-    json.Clave("entradas").AbrirObjeto();
-    ListaNumeros(json, "QSD", d.QSD);
-    ListaNumeros(json, "QSA", d.QSA);
-    ListaNumeros(json, "dimensiones", d.dimensiones);
-    json.Clave("unidad").Texto(m.cboUnidad(v.dimensiones.front().indice).Text);
-    json.Clave("horas").Numero(d.horas).Clave("combustible");
-    json.Texto(m.cboCombustibleUtilizado().Text).Clave("nombre");
-    json.Texto(m.txtValor(v.nombreCombustible.indice).Text).Clave("valor").Numero(d.valor);
-    json.Clave("poder").Numero(d.poder).Clave("eficiencia").Numero(d.eficiencia);
-    json.CerrarObjeto();
+    return {{"QSD", d.QSD},
+            {"QSA", d.QSA},
+            {"dimensiones", d.dimensiones},
+            {"unidad", m.cboUnidad(v.dimensiones.front().indice).Text},
+            {"horas", d.horas},
+            {"combustible", m.cboCombustibleUtilizado().Text},
+            {"nombre", m.txtValor(v.nombreCombustible.indice).Text},
+            {"valor", d.valor},
+            {"poder", d.poder},
+            {"eficiencia", d.eficiencia}};
 }
 
-void Resultados(EscritorJson& json, const ModeloEconomico& m) {
+Json Resultados(const ModeloEconomico& m) {
     const Ahorro& a = m.Montos();
     const std::vector<CajaEconomica>& cajas = m.Ventana().resultados;
-    json.Clave("resultados").AbrirLista();
+    Json resultados = Json::array();
     for (size_t o = 0; o < cajas.size(); ++o) {
-        json.AbrirObjeto().Clave("caja").Numero(cajas[o].indice).Clave("etiqueta");
-        json.Texto(m.lblEtiqueta(cajas[o].indice).Caption).Clave("texto");
-        json.Texto(m.txtValor(cajas[o].indice).Text);
+        Json caja = {{"caja", cajas[o].indice},
+                     {"etiqueta", m.lblEtiqueta(cajas[o].indice).Caption},
+                     {"texto", m.txtValor(cajas[o].indice).Text}};
         if (o < a.ahorro.size()) {
-            json.Clave("combustible").Numero(a.combustible[o]).Clave("ahorro").Numero(a.ahorro[o]);
+            caja["combustible"] = a.combustible[o];
+            caja["ahorro"] = a.ahorro[o];
         } else {
-            json.Clave("ahorro").Numero(a.total);
+            caja["ahorro"] = a.total;
         }
-        json.CerrarObjeto();
+        resultados.push_back(std::move(caja));
     }
-    json.CerrarLista();
+    return resultados;
 }
 
-std::string Json(const OpcionesEconomia& o, const ModeloEconomico& m,
-                 const std::vector<Mensaje>& mensajes, bool bien) {
-    EscritorJson json;
-    json.AbrirObjeto().Clave("archivo").Texto(o.archivo).Clave("ventana");
-    json.Texto(m.Ventana().nombre).Clave("tipo").Numero(m.TipoAnalisis());
-    json.Clave("ok").Booleano(bien).Clave("mensajes").AbrirLista();
+std::string ComoJson(const OpcionesEconomia& o, const ModeloEconomico& m,
+                     const std::vector<Mensaje>& mensajes, bool bien) {
+    Json json = {{"archivo", o.archivo},
+                 {"ventana", m.Ventana().nombre},
+                 {"tipo", m.TipoAnalisis()},
+                 {"ok", bien},
+                 {"mensajes", Json::array()}};
     for (const Mensaje& mensaje : mensajes) {
-        json.Texto(mensaje.texto);
+        json["mensajes"].push_back(mensaje.texto);
     }
-    json.CerrarLista();
     if (bien) {
-        Entradas(json, m);
-        Resultados(json, m);
-        json.Clave("CostoTotalSD").Numero(m.CostoTotalSD());
-        json.Clave("CostoTotalSA").Numero(m.CostoTotalSA());
-        json.Clave("textoCostoTotalSD").Texto(Monto(m, m.CostoTotalSD()));
-        json.Clave("textoCostoTotalSA").Texto(Monto(m, m.CostoTotalSA()));
-        json.Clave("Moneda").Texto(m.Moneda()).Clave("Eficiencia").Numero(m.Eficiencia());
-        json.Clave("Tag").Texto(m.Tag());
+        json["entradas"] = Entradas(m);
+        json["resultados"] = Resultados(m);
+        json["CostoTotalSD"] = m.CostoTotalSD();
+        json["CostoTotalSA"] = m.CostoTotalSA();
+        json["textoCostoTotalSD"] = Monto(m, m.CostoTotalSD());
+        json["textoCostoTotalSA"] = Monto(m, m.CostoTotalSA());
+        json["Moneda"] = m.Moneda();
+        json["Eficiencia"] = m.Eficiencia();
+        json["Tag"] = m.Tag();
     }
-    json.CerrarObjeto();
-    return json.Resultado();
+    return TextoJson(json);
 }
 
 int Analizar(ArchivoAbierto& abierto, const OpcionesEconomia& opciones) {
@@ -387,7 +363,7 @@ int Analizar(ArchivoAbierto& abierto, const OpcionesEconomia& opciones) {
     }
     const bool bien = modelo.Tag() == modelo.Ventana().tag;
     if (opciones.json) {
-        std::cout << Json(opciones, modelo, prompter.mensajes, bien) << '\n';
+        std::cout << ComoJson(opciones, modelo, prompter.mensajes, bien) << '\n';
     } else if (bien) {
         ImprimirTexto(modelo);
     }
@@ -396,14 +372,27 @@ int Analizar(ArchivoAbierto& abierto, const OpcionesEconomia& opciones) {
 
 }  // namespace
 
-int ComandoEconomia(const Argumentos& argumentos) {
-    const std::optional<OpcionesEconomia> opciones = LeerOpciones(argumentos);
-    if (!opciones) {
-        std::cerr << kUso << '\n';
-        return kSalidaUso;
+Ejecucion DeclararEconomia(CLI::App& comando) {
+    auto opciones = std::make_shared<OpcionesEconomia>();
+    comando.add_option("ARCHIVO", opciones->archivo,
+                       "Proyecto .adk en caliente; «-» lo lee de la entrada estándar.")
+            ->required();
+    for (const OpcionConValor& con : kConValor) {
+        const std::string opcion = con.nombre;
+        comando.add_option_function<std::string>(
+                       opcion,
+                       [opciones, opcion](const std::string& valor) {
+                           opciones->valores[opcion] = valor;
+                       },
+                       con.ayuda)
+                ->type_name(con.valor);
     }
-    return ConArchivo(opciones->archivo, opciones->sinBD, true,
-                      [&](ArchivoAbierto& abierto) { return Analizar(abierto, *opciones); });
+    comando.add_flag("--json", opciones->json, "Un objeto JSON en una línea: entradas y montos.");
+    comando.add_flag("--sin-bd", opciones->sinBD, "Calcula sin la base de datos de materiales.");
+    return [opciones] {
+        return ConArchivo(opciones->archivo, opciones->sinBD, true,
+                          [&](ArchivoAbierto& abierto) { return Analizar(abierto, *opciones); });
+    };
 }
 
 }  // namespace kelvora::cli

@@ -8,6 +8,6 @@ namespace kelvora::cli {
 /// [--combustible NOMBRE] [--nombre N] [--poder P] [--valor V] [--moneda M] [--eficiencia E]
 /// [--json] [--sin-bd]: calculates the file as `calcular` does, hands its results to the
 /// economic window, fills it, presses "C&alcular" and prints the result boxes and the costs.
-int ComandoEconomia(const Argumentos& argumentos);
+Ejecucion DeclararEconomia(CLI::App& comando);
 
 }  // namespace kelvora::cli

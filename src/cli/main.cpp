@@ -7,7 +7,7 @@
 int main(int argc, char** argv) {
     kelvora::EstablecerLocale(kelvora::LeerLocaleSistema());
     try {
-        return kelvora::cli::Despachar(kelvora::cli::Argumentos(argv + 1, argv + argc));
+        return kelvora::cli::Despachar(std::vector<std::string>(argv + 1, argv + argc));
     } catch (const kelvora::RuntimeError& error) {
         std::cerr << "Error " << error.number << ": " << error.description << '\n';
         return kelvora::cli::kSalidaDetenido;

@@ -9,6 +9,7 @@
 #include "core/runtime/numeros.h"
 #include "core/runtime/texto.h"
 
+#include <CLI/CLI.hpp>
 #include <charconv>
 #include <filesystem>
 #include <iostream>
@@ -46,13 +47,7 @@ std::optional<double> LeerNominal(std::string texto) {
     return valor;
 }
 
-}  // namespace
-
-int ComandoMateriales(const Argumentos& argumentos) {
-    if (!argumentos.empty()) {
-        std::cerr << "Uso: kelvora-cli materiales\n";
-        return kSalidaUso;
-    }
+int ListarMateriales() {
     Conexion conexion;
     conexion.Open(CadenaConexionCli());
     Recordset materiales;
@@ -67,11 +62,10 @@ int ComandoMateriales(const Argumentos& argumentos) {
     return kSalidaBien;
 }
 
-int ComandoTubo(const Argumentos& argumentos) {
-    const std::optional<double> nominal =
-            argumentos.size() == 1 ? LeerNominal(argumentos.front()) : std::nullopt;
+int MostrarTubo(const std::string& texto) {
+    const std::optional<double> nominal = LeerNominal(texto);
     if (!nominal) {
-        std::cerr << "Uso: kelvora-cli tubo NOMINAL (diámetro nominal en plg, p. ej. 1.25)\n";
+        std::cerr << "El diámetro nominal no es un número: " << texto << '\n';
         return kSalidaUso;
     }
     FuenteTubosBD tubos(CadenaConexionCli());
@@ -86,6 +80,19 @@ int ComandoTubo(const Argumentos& argumentos) {
     }
     std::cout << ConPunto(TextoNumero(fila->Cuatro)) << '\n';
     return kSalidaBien;
+}
+
+}  // namespace
+
+Ejecucion DeclararMateriales(CLI::App&) {
+    return ListarMateriales;
+}
+
+Ejecucion DeclararTubo(CLI::App& comando) {
+    auto nominal = std::make_shared<std::string>();
+    comando.add_option("NOMINAL", *nominal, "Diámetro nominal en plg, p. ej. 1.25 o 1,25.")
+            ->required();
+    return [nominal] { return MostrarTubo(*nominal); };
 }
 
 }  // namespace kelvora::cli

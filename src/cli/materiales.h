@@ -5,8 +5,8 @@
 namespace kelvora::cli {
 
 /// Lists table Emisividad as the material list shows it, every row but code 0.
-int ComandoMateriales(const Argumentos& argumentos);
+Ejecucion DeclararMateriales(CLI::App& comando);
 /// Prints the row of table Tubos of a nominal diameter; error 1005 when there is none.
-int ComandoTubo(const Argumentos& argumentos);
+Ejecucion DeclararTubo(CLI::App& comando);
 
 }  // namespace kelvora::cli

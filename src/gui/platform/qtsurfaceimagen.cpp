@@ -6,7 +6,10 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPageLayout>
+#include <QPageSize>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPen>
 #include <QSaveFile>
 #include <QSvgGenerator>
@@ -75,7 +78,7 @@ void QtSurfaceImagen::Print(const std::string& texto, bool finDeLinea) {
     const QFont fuente = FuenteQt(mFuente, mPixelesPorMm);
     const QPointF base(Pixeles(mX), Pixeles(mY) + QFontMetricsF(fuente).ascent());
     const QString qtexto = Texto(texto);
-    mTrazos.emplace_back([fuente, base, qtexto](QPainter& pintor) {
+    Agregar([fuente, base, qtexto](QPainter& pintor) {
         pintor.setFont(fuente);
         pintor.setPen(Qt::black);
         pintor.drawText(base, qtexto);
@@ -93,7 +96,7 @@ void QtSurfaceImagen::Line(double x1, double y1, double x2, double y2, unsigned 
     pluma.setWidth(mAnchoLinea);
     pluma.setCapStyle(Qt::RoundCap);
     const QLineF linea(Pixeles(x1), Pixeles(y1), Pixeles(x2), Pixeles(y2));
-    mTrazos.emplace_back([pluma, linea](QPainter& pintor) {
+    Agregar([pluma, linea](QPainter& pintor) {
         pintor.setPen(pluma);
         pintor.drawLine(linea);
     });
@@ -103,8 +106,7 @@ void QtSurfaceImagen::PaintPicture(const std::string& imagen, double x, double y
                                    double alto) {
     const QImage dibujo(Texto(imagen));
     const QRectF destino(Pixeles(x), Pixeles(y), Pixeles(ancho), Pixeles(alto));
-    mTrazos.emplace_back(
-            [dibujo, destino](QPainter& pintor) { pintor.drawImage(destino, dibujo); });
+    Agregar([dibujo, destino](QPainter& pintor) { pintor.drawImage(destino, dibujo); });
 }
 
 void QtSurfaceImagen::SetFont(const Fuente& fuente) {
@@ -112,16 +114,16 @@ void QtSurfaceImagen::SetFont(const Fuente& fuente) {
 }
 
 void QtSurfaceImagen::NewPage() {
-    mTrazos.clear();
+    mPaginas.emplace_back();
     mX = 0;
     mY = 0;
 }
 
-void QtSurfaceImagen::Reproducir(QPainter& pintor) const {
+void QtSurfaceImagen::Reproducir(QPainter& pintor, const std::vector<Trazo>& pagina) const {
     pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setRenderHint(QPainter::TextAntialiasing);
     pintor.fillRect(QRectF(0, 0, Pixeles(mAnchoMm), Pixeles(mAltoMm)), Qt::white);
-    for (const auto& trazo : mTrazos) {
+    for (const Trazo& trazo : pagina) {
         trazo(pintor);
     }
 }
@@ -131,7 +133,7 @@ QImage QtSurfaceImagen::Imagen() const {
                   static_cast<int>(std::lround(Pixeles(mAltoMm))), QImage::Format_ARGB32);
     {
         QPainter pintor(&imagen);
-        Reproducir(pintor);
+        Reproducir(pintor, mPaginas.front());
     }
     return imagen;
 }
@@ -160,7 +162,36 @@ bool QtSurfaceImagen::GuardarSvg(const std::string& archivo) const {
         if (!pintor.begin(&generador)) {
             return false;
         }
-        Reproducir(pintor);
+        Reproducir(pintor, mPaginas.front());
+    }
+    return salida.commit();
+}
+
+bool QtSurfaceImagen::GuardarPdf(const std::string& archivo) const {
+    QSaveFile salida(Texto(archivo));
+    if (!salida.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    QPdfWriter pdf(&salida);
+    pdf.setCreator("Kelvora");
+    pdf.setResolution(static_cast<int>(std::lround(mPixelesPorMm * kMmPorPulgada)));
+    // Page sizes are given upright; a wide page is an upright one turned.
+    const bool apaisada = mAnchoMm > mAltoMm;
+    const QSizeF derecha = apaisada ? QSizeF(mAltoMm, mAnchoMm) : QSizeF(mAnchoMm, mAltoMm);
+    pdf.setPageLayout(QPageLayout(QPageSize(derecha, QPageSize::Millimeter),
+                                  apaisada ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                  QMarginsF()));
+    {
+        QPainter pintor;
+        if (!pintor.begin(&pdf)) {
+            return false;
+        }
+        for (size_t pagina = 0; pagina < mPaginas.size(); ++pagina) {
+            if (pagina > 0) {
+                pdf.newPage();
+            }
+            Reproducir(pintor, mPaginas[pagina]);
+        }
     }
     return salida.commit();
 }

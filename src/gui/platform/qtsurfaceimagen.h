@@ -11,9 +11,9 @@ class QPainter;
 
 namespace kelvora {
 
-/// A white picture of a given size in millimetres that records what is drawn on it and writes
-/// it as a PNG or an SVG file. Needs no window: it starts a windowless Qt application when
-/// there is none.
+/// White pages of a given size in millimetres that record what is drawn on them: the first page
+/// written as a PNG or an SVG file, every page as a PDF file. Needs no window: it starts a
+/// windowless Qt application when there is none.
 class QtSurfaceImagen : public Surface {
 public:
     QtSurfaceImagen(double anchoMm, double altoMm, double pixelesPorMm);
@@ -32,15 +32,19 @@ public:
     void NewPage() override;
     void SetDrawWidth(int ancho) override { mAnchoLinea = ancho; }
 
-    /// The picture as an image of its size in pixels.
+    /// The first page as an image of its size in pixels.
     QImage Imagen() const;
-    /// Writes the picture; the file is replaced only when the whole picture was written.
+    /// Writes the file; an existing one is replaced only when the whole file was written.
     bool GuardarPng(const std::string& archivo) const;
     bool GuardarSvg(const std::string& archivo) const;
+    bool GuardarPdf(const std::string& archivo) const;
 
 private:
     double Pixeles(double mm) const { return mm * mPixelesPorMm; }
-    void Reproducir(QPainter& pintor) const;
+    using Trazo = std::function<void(QPainter&)>;
+
+    void Reproducir(QPainter& pintor, const std::vector<Trazo>& pagina) const;
+    void Agregar(Trazo trazo) { mPaginas.back().push_back(std::move(trazo)); }
 
     double mAnchoMm;
     double mAltoMm;
@@ -49,7 +53,7 @@ private:
     double mY = 0;
     int mAnchoLinea = 1;
     Fuente mFuente;
-    std::vector<std::function<void(QPainter&)>> mTrazos;
+    std::vector<std::vector<Trazo>> mPaginas{1};
 };
 
 }  // namespace kelvora
