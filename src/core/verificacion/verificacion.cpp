@@ -84,6 +84,7 @@ DatosVerificacion DatosDeResultados(const ModeloResultados& ventana,
     const bool tuberia =
             producto->analisis == Analisis::SC || producto->analisis == Analisis::SCFrio;
     DatosVerificacion datos;
+    datos.producto = ventana.TipoAnalisis();
     datos.frio = producto->analisis == Analisis::SPFrio || producto->analisis == Analisis::SCFrio;
     const ValoresPublicos& valores = ventana.Valores();
     datos.requerida = unidades.Convert(valores.Numero("TS"), valores.Texto("unitTS"), "°F");
@@ -98,11 +99,12 @@ DatosVerificacion DatosDeResultados(const ModeloResultados& ventana,
                      : ConductividadProducto(ventana.TipoAnalisis());
     const std::vector<Posicion> geometrias = Geometrias(tuberia);
     for (size_t p = 0; p < geometrias.size(); ++p) {
-        const int practico = static_cast<int>(2 * p + 1);
-        datos.practicos.push_back({ventana.Ventana().posiciones[p], geometrias[p],
-                                   Ranura(ventana, practico, kOffsetE),
-                                   Ranura(ventana, practico, kOffsetTS),
-                                   Ranura(ventana, practico, kOffsetQt)});
+        const int ideal = static_cast<int>(2 * p);
+        const int practico = ideal + 1;
+        datos.practicos.push_back(
+                {ventana.Ventana().posiciones[p], geometrias[p], Ranura(ventana, ideal, kOffsetE),
+                 Ranura(ventana, practico, kOffsetE), Ranura(ventana, practico, kOffsetTS),
+                 Ranura(ventana, practico, kOffsetQt)});
     }
     return datos;
 }
@@ -119,6 +121,7 @@ Verificacion Verificar(const DatosVerificacion& datos, double L) {
         p.moderno = SuperficieConEspesor(s, programa.E);
         p.QtModerno = FlujoMostrado(s, programa.E, p.moderno);
         p.espesorNecesario = EspesorNecesario(s, datos.requerida);
+        p.cumplePrograma = Cumple(datos.frio, programa.TS, datos.requerida);
         p.cumple = Cumple(datos.frio, p.moderno.TS, datos.requerida);
         verificacion.posiciones.push_back(p);
     }

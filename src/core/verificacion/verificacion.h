@@ -11,10 +11,12 @@ namespace kelvora {
 class ModeloResultados;
 class classUnidades;
 
-/// One position as the program solved it at its practical thickness.
+/// One position as the program solved it: its exact thickness, and the surface at its practical
+/// thickness.
 struct PracticoPrograma {
     std::string posicion;
     Posicion geometria = Posicion::Vertical;
+    double exacto = 0;
     double E = 0;
     double TS = 0;
     /// Qt as the program shows it: BTU/pie² h flat, BTU/pie h on a pipe.
@@ -24,6 +26,8 @@ struct PracticoPrograma {
 /// What the verification takes from a result: the insulated system (without its position) and
 /// the program's practical results, in °F, plg and mi/h.
 struct DatosVerificacion {
+    /// The product code of the calculation.
+    int producto = 0;
     SistemaAislado sistema;
     /// The required surface temperature: the typed one when hot, dew point + 1 when cold.
     double requerida = 0;
@@ -42,6 +46,8 @@ struct PosicionVerificada {
     double QtModerno = 0;
     /// What the modern method needs to reach the requirement; none past kEspesorMaximo.
     std::optional<double> espesorNecesario;
+    /// Whether the practical thickness meets the requirement, by each method.
+    bool cumplePrograma = false;
     bool cumple = false;
 };
 

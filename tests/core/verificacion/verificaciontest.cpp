@@ -7,6 +7,7 @@
 #include "core/verificacion/aire.h"
 #include "core/verificacion/correlaciones.h"
 #include "core/verificacion/errorverificacion.h"
+#include "core/verificacion/informeverificacion.h"
 #include "core/verificacion/verificacion.h"
 #include "support/dobles.h"
 
@@ -200,7 +201,7 @@ TEST(Verificar, DatosInvalidosDanUnMensaje) {
     DatosVerificacion base;
     base.sistema = Sistema(Posicion::Vertical, 600, 80, 0);
     base.requerida = 140;
-    base.practicos = {{"SUPERFICIE PLANA VERTICAL", Posicion::Vertical, 2, 150, 130}};
+    base.practicos = {{"SUPERFICIE PLANA VERTICAL", Posicion::Vertical, 1.8, 2, 150, 130}};
     struct Caso {
         const char* mensaje;
         std::function<void(DatosVerificacion&, double&)> cambio;
@@ -244,6 +245,43 @@ TEST(Verificar, DatosInvalidosDanUnMensaje) {
     }
     Ventana vacia(TipoResultados::SuperficiesPlanas, 1);
     EXPECT_THROW(DatosDeResultados(vacia.ventana, vacia.unidades), RuntimeError);
+}
+
+// The verdict after each position says in words whether the practical thickness still meets
+// the requirement, and by which method; flows carry the unit of their geometry.
+TEST(InformeVerificacion, DictamenDeCadaPosicion) {
+    Verificacion v;
+    v.datos.producto = 14;
+    v.datos.frio = true;
+    v.datos.requerida = 71;
+    v.datos.sistema = Sistema(Posicion::TuberiaVertical, 40, 80, 0, 2.375);
+    struct Caso {
+        bool cumplePrograma;
+        bool cumple;
+        const char* dictamen;
+    };
+    // clang-format off
+    const std::vector<Caso> casos = {
+        {true,  true,  "Cumple: la superficie queda en 72.0 °F, sin bajar de los 71.0 °F exigidos (punto de rocío + 1 °F)."},
+        {true,  false, "NO CUMPLE con el método moderno: la superficie baja a 70.5 °F, por debajo de los 71.0 °F exigidos (punto de rocío + 1 °F); hacen falta 2.1 plg."},
+        {false, false, "No cumple con ninguno de los dos métodos: la superficie queda en 70.8 °F según el programa y en 70.5 °F según el método moderno, por debajo de los 71.0 °F exigidos (punto de rocío + 1 °F); hacen falta 2.1 plg."},
+    };
+    // clang-format on
+    for (const Caso& caso : casos) {
+        PosicionVerificada p;
+        p.programa = {"TUBERIA VERTICAL", Posicion::TuberiaVertical, 1.8, 2, 70.8, -9};
+        p.moderno.TS = caso.cumple ? 72 : 70.5;
+        p.espesorNecesario = 2.1;
+        p.cumplePrograma = caso.cumplePrograma;
+        p.cumple = caso.cumple;
+        v.posiciones = {p};
+        const Grilla informe = InformeVerificacion(v);
+        const int ultima = informe.Rows() - 1;
+        EXPECT_TRUE(informe.MergeRow(ultima));
+        EXPECT_EQ(informe.TextMatrix(ultima, 0), caso.dictamen);
+        EXPECT_EQ(informe.TextMatrix(ultima - 2, 0), "Ganancia de Calor Total");
+        EXPECT_EQ(informe.TextMatrix(ultima - 2, 1), "BTU/pie h");
+    }
 }
 
 }  // namespace
