@@ -3,6 +3,8 @@
 import csv
 import os
 
+from vb import ErrorVB
+
 PRODUCTOS = {
     1: ("Velmar de 80 kg/m³", 1400, 0.217, 0.0019),
     2: ("Velmar de 100 kg/m³", 1400, 0.2199, 0.0017),
@@ -54,3 +56,17 @@ class BaseDatos:
             if fila["Nominal"] == nominal:
                 return fila
         return None
+
+
+class SinBaseDatos:
+    """The database file missing: every query fails with the program's message, naming the
+    file where the program looks for it."""
+
+    def __init__(self, archivo_bd):
+        self.archivo_bd = archivo_bd
+
+    def material(self, codigo):
+        return None
+
+    def tubo(self, nominal):
+        raise ErrorVB(0, "No se pudo encontrar el archivo '%s'." % self.archivo_bd)

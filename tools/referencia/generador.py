@@ -437,6 +437,79 @@ def casos_borde():
     return casos
 
 
+TEXTOS = ["Fornalis S.A.", "Ingeniería Térmica Ltda.", "Refinería del Norte; planta 2",
+          "  con blancos  ", "Cliente\r\nsegunda línea", "Niño & Peña", "a;b;c", ";", "Ñandú S.A.",
+          "Caldera 3 - línea de vapor", "\tTabulado", "x"]
+FECHAS_BUENAS = ["05/03/2026", "01/01/2000", "31/12/1999", "29/02/2024", "28/02/2026", "1/2/2026",
+                 "15/8/95", " 07/07/2021 ", "2026-03-05", "12/31/2024", "5/3"]
+FECHAS_MALAS = ["31/02/2026", "29/02/2025", "00/05/2020", "32/01/2024", "13/13/2020", "hoy", "",
+                "05.03.2026"]
+COMBUSTIBLES = ["Carbón", "ACPM", "Crudo", "Fuel Oil", "Gas natural", "Energia eléctrica",
+                "Propano", "Otro", "carbón", "fuel oil"]
+AREAS = ["cm²", "m²", "pulg²", "pie²", "ha", "acre"]
+HORAS = ["876", "1752", "2628", "3480", "5256", "6132", "7008", "7884", "8760"]
+
+
+def _texto_encabezado(r):
+    x = r.random()
+    if x < 0.1:
+        return ""
+    if x < 0.15:
+        return r.choice(TEXTOS) * r.choice([300, 1000])
+    if x < 0.2:
+        return "".join(r.choice("abcdeñáé ;,.-") for _ in range(10000))
+    return r.choice(TEXTOS)
+
+
+def _cantidad(r):
+    """A number as a user would give it to the command line."""
+    x = r.random()
+    if x < 0.6:
+        return "%g" % round(r.uniform(0.1, 5000), r.choice([0, 1, 2]))
+    if x < 0.7:
+        return r.choice(["0", "-5", "0.001", "1e6", "12.5"])
+    if x < 0.8:
+        return "%d" % r.randint(1, 100)
+    return repr(round(r.uniform(0.01, 100), 3))
+
+
+def opciones_informe(r, tipo, pipe):
+    """Random options of `kelvora-cli informe` for a report kind; `pipe` picks lengths."""
+    opciones = ["--hoy", r.choice(["05/03/2026", "29/02/2024", "31/12/1999", "01/01/2030"])]
+    if tipo in ("tecnico", "economico") and r.random() < 0.75:
+        fecha = r.choice(FECHAS_BUENAS) if r.random() < 0.8 else r.choice(FECHAS_MALAS)
+        opciones += ["--fecha", fecha, "--vendedor", _texto_encabezado(r),
+                     "--comprador", _texto_encabezado(r), "--trabajo", _texto_encabezado(r)]
+    if tipo == "tabla":
+        opciones += ["--grafica", r.choice(["1", "2"])]
+    if tipo == "economico":
+        n = 2 if pipe else 3
+        if r.random() < 0.95:
+            opciones += ["--longitudes" if pipe else "--areas",
+                         ",".join(_cantidad(r) for _ in range(n))]
+        if r.random() < 0.5:
+            opciones += ["--unidad", r.choice(["mm", "cm", "m", "km", "pie", "plg", "mi", "yd"]
+                                              if pipe else AREAS)]
+        if r.random() < 0.6:
+            opciones += ["--horas", r.choice(HORAS + ["100.5", "0", "8761", "4380"])]
+        combustible = None
+        if r.random() < 0.6:
+            combustible = r.choice(COMBUSTIBLES)
+            opciones += ["--combustible", combustible]
+        if combustible == "Otro":
+            if r.random() < 0.9:
+                opciones += ["--nombre", r.choice(["Leña", "Bagazo; seco", "  ", "Gas de alto horno"])]
+            if r.random() < 0.9:
+                opciones += ["--poder", _cantidad(r)]
+        if r.random() < 0.95:
+            opciones += ["--valor", _cantidad(r)]
+        if r.random() < 0.5:
+            opciones += ["--moneda", r.choice(["Pesos", "Dolares", "Euros", "dolares"])]
+        if r.random() < 0.6:
+            opciones += ["--eficiencia", r.choice(["100", "85", "0", "150", "72.5", "1"])]
+    return opciones
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("carpeta")

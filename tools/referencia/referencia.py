@@ -40,35 +40,70 @@ def _calcular(ventana, tipo, argumentos, bd):
     return calcular_scfrio(argumentos, bd)
 
 
+class Proyecto:
+    """One file opened as in a freshly started program: its entry window and, once calculated,
+    its results window."""
+
+    def __init__(self, archivo, bd, bd_disponible=True):
+        self.archivo = archivo
+        self.bd = bd
+        self.bd_disponible = bd_disponible
+        self.mensajes = []
+        self.tipo = 0
+        self.ventana = None
+        self.entrada = None
+        self.argumentos = None
+        self.slots = None
+        self.tabla = None
+        self.valores = None
+
+    def abrir(self):
+        """Reader, file checks and ShowVariables; False when no entry window results."""
+        try:
+            with open(self.archivo, "rb") as f:
+                datos = f.read()
+        except OSError as error:
+            self.mensajes.append(("Error: " + str(error), "critico", "Aceptar"))
+            return False
+        lector = Lector(self.mensajes)
+        tipo = lector.leer(datos)
+        if tipo is None or not validar_variables(lector.unidades, tipo, self.mensajes):
+            return False
+        self.tipo = tipo
+        self.ventana, clase = ventana_de_tipo(tipo)
+        self.entrada = clase(tipo, self.bd, self.mensajes, self.bd_disponible)
+        self.entrada.mostrar_variables(lector.unidades)
+        return True
+
+    def calcular(self):
+        """"C&alcular" of the entry window; False when no results window stays."""
+        if not self.entrada.completa() or not self.entrada.validar():
+            return False
+        argumentos = self.entrada.argumentos()
+        try:
+            slots, publicos = _calcular(self.ventana, self.tipo, argumentos, self.bd)
+            self.tabla = mostrar_resultados(self.ventana, self.tipo, slots, argumentos["unidades"])
+            self.valores = _valores(self.ventana, self.entrada, argumentos, publicos)
+        except ErrorVB as error:
+            self.mensajes.append(("Error inesperado: " + error.descripcion, "exclamacion",
+                                  "Aceptar"))
+            return False
+        except SeccionNoPrevista:
+            self.mensajes.append((TEXTO_SECCION, "exclamacion", "Aceptar"))
+            return False
+        self.argumentos = argumentos
+        self.slots = slots
+        return True
+
+
 def calcular_archivo(archivo, bd):
-    mensajes = []
-    try:
-        with open(archivo, "rb") as f:
-            datos = f.read()
-    except OSError as error:
-        mensajes.append(("Error: " + str(error), "critico", "Aceptar"))
-        return _salida(archivo, mensajes)
-    lector = Lector(mensajes)
-    tipo = lector.leer(datos)
-    if tipo is None or not validar_variables(lector.unidades, tipo, mensajes):
-        return _salida(archivo, mensajes)
-    nombre, clase = ventana_de_tipo(tipo)
-    entrada = clase(tipo, bd, mensajes)
-    entrada.mostrar_variables(lector.unidades)
-    if not entrada.completa() or not entrada.validar():
-        return _salida(archivo, mensajes, tipo, nombre)
-    argumentos = entrada.argumentos()
-    try:
-        slots, publicos = _calcular(nombre, tipo, argumentos, bd)
-        tabla = mostrar_resultados(nombre, tipo, slots, argumentos["unidades"])
-        valores = _valores(nombre, entrada, argumentos, publicos)
-    except ErrorVB as error:
-        mensajes.append(("Error inesperado: " + error.descripcion, "exclamacion", "Aceptar"))
-        return _salida(archivo, mensajes, tipo, nombre)
-    except SeccionNoPrevista:
-        mensajes.append((TEXTO_SECCION, "exclamacion", "Aceptar"))
-        return _salida(archivo, mensajes, tipo, nombre)
-    return _salida(archivo, mensajes, tipo, nombre, slots, tabla, valores)
+    proyecto = Proyecto(archivo, bd)
+    if not proyecto.abrir():
+        return _salida(archivo, proyecto.mensajes)
+    if not proyecto.calcular():
+        return _salida(archivo, proyecto.mensajes, proyecto.tipo, proyecto.ventana)
+    return _salida(archivo, proyecto.mensajes, proyecto.tipo, proyecto.ventana, proyecto.slots,
+                   proyecto.tabla, proyecto.valores)
 
 
 def _valores(ventana, entrada, a, publicos):

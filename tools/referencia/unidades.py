@@ -6,6 +6,7 @@ FAMILIAS = {
     "Temperatura": ["°R", "°F", "°C", "K"],
     "Velocidad": ["mi/h", "km/h", "yd/h", "m/s"],
     "Longitud": ["mm", "cm", "m", "km", "pie", "plg", "mi", "yd"],
+    "Area": ["cm²", "m²", "pulg²", "pie²", "ha", "acre"],
 }
 
 # What ExistUnit searches for a named family; the length list is its own.
@@ -123,6 +124,32 @@ def _longitud(desde, hasta, x):
     return tabla.get((desde, hasta))
 
 
+def _area(desde, hasta, x):
+    """Squares are powers taken at run time."""
+    tabla = {
+        ("cm²", "m²"): lambda: x / 100 ** 2, ("cm²", "pulg²"): lambda: x / 2.54 ** 2,
+        ("cm²", "pie²"): lambda: x / 30.48 ** 2, ("cm²", "ha"): lambda: x / 100 ** 2 / 10000,
+        ("cm²", "acre"): lambda: x / 100 ** 2 / 4046.856,
+        ("m²", "cm²"): lambda: 100 ** 2 * x, ("m²", "pulg²"): lambda: x / 0.0254 ** 2,
+        ("m²", "pie²"): lambda: x / 0.3048 ** 2, ("m²", "ha"): lambda: x / 10000,
+        ("m²", "acre"): lambda: x / 4046.856,
+        ("pulg²", "cm²"): lambda: 2.54 ** 2 * x, ("pulg²", "m²"): lambda: 0.0254 ** 2 * x,
+        ("pulg²", "pie²"): lambda: x / 12 ** 2, ("pulg²", "ha"): lambda: 0.0254 ** 2 * x / 10000,
+        ("pulg²", "acre"): lambda: 0.0254 ** 2 * x / 4046.856,
+        ("pie²", "cm²"): lambda: 30.48 ** 2 * x, ("pie²", "m²"): lambda: 0.3048 ** 2 * x,
+        ("pie²", "pulg²"): lambda: 12 ** 2 * x, ("pie²", "ha"): lambda: 0.3048 ** 2 * x / 10000,
+        ("pie²", "acre"): lambda: 0.3048 ** 2 * x / 4046.856,
+        ("ha", "cm²"): lambda: 100 ** 2 * x * 10000, ("ha", "m²"): lambda: x * 10000,
+        ("ha", "pulg²"): lambda: x / 0.0254 ** 2 * 10000,
+        ("ha", "pie²"): lambda: x / 0.3048 ** 2 * 10000, ("ha", "acre"): lambda: x * 10000 / 4046.856,
+        ("acre", "cm²"): lambda: 100 ** 2 * x * 4046.856, ("acre", "m²"): lambda: x * 4046.856,
+        ("acre", "pulg²"): lambda: x / 0.0254 ** 2 * 4046.856,
+        ("acre", "pie²"): lambda: x / 0.3048 ** 2 * 4046.856,
+        ("acre", "ha"): lambda: x * 10000 / 4046.856,
+    }
+    return tabla.get((desde, hasta))
+
+
 def convertir(desde, hasta, x):
     """Convert: one formula per ordered pair; equal symbols return the value unchanged."""
     if igual(desde, hasta):
@@ -130,7 +157,7 @@ def convertir(desde, hasta, x):
     a, b = canonica(desde), canonica(hasta)
     formula = None
     if a is not None and b is not None:
-        for tabla in (_temperatura, _velocidad, _longitud):
+        for tabla in (_temperatura, _velocidad, _longitud, _area):
             formula = tabla(a, b, x)
             if formula is not None:
                 break

@@ -292,3 +292,52 @@ def trim(texto):
 
 def igual(a, b):
     return a.casefold() == b.casefold()
+
+
+class Regional:
+    """The separators of the user's locale that CStr, Format and dates use: es or C."""
+
+    def __init__(self, coma):
+        self.decimal = "," if coma else "."
+        self.miles = "." if coma else ","
+
+    @staticmethod
+    def del_entorno(entorno):
+        for clave in ("LC_ALL", "LC_NUMERIC", "LANG"):
+            valor = entorno.get(clave, "")
+            if valor:
+                return Regional(valor.lower().startswith("es"))
+        return Regional(False)
+
+
+def formato_miles(x, regional):
+    """Format(x, "0,000.0#"): four integer digits at least, grouped, locale separators."""
+    texto = formato(x, 1, 2)
+    signo = "-" if texto.startswith("-") else ""
+    entero, _, decimales = texto.lstrip("-").partition(".")
+    entero = entero.rjust(4, "0")
+    grupos = []
+    while entero:
+        grupos.insert(0, entero[-3:])
+        entero = entero[:-3]
+    return signo + regional.miles.join(grupos) + regional.decimal + decimales
+
+
+def limpiar_texto(texto, quitar=""):
+    """LimpiarTexto: blanks, then line ends, tabs and blanks at both ends; then every `quitar`."""
+    texto = trim(texto)
+    while texto and texto[0] in "\n\r\t ":
+        texto = texto[1:]
+    while texto and texto[-1] in "\n\r\t ":
+        texto = texto[:-1]
+    if quitar:
+        bajo = quitar.casefold()
+        salida, i = [], 0
+        while i < len(texto):
+            if texto[i:i + len(quitar)].casefold() == bajo:
+                i += len(quitar)
+            else:
+                salida.append(texto[i])
+                i += 1
+        texto = "".join(salida)
+    return texto
