@@ -5,6 +5,7 @@
 #include "cli/economia.h"
 #include "cli/graficar.h"
 #include "cli/materiales.h"
+#include "cli/verificar.h"
 
 #include <CLI/CLI.hpp>
 #include <iostream>
@@ -139,6 +140,9 @@ const std::vector<Comando>& Comandos() {
              DeclararEconomia},
             {"graficar", "Calcula la gráfica de un proyecto en caliente; la dibuja en PNG o SVG.",
              DeclararGraficar},
+            {"verificar",
+             "Comprueba cada posición de un proyecto con correlaciones de película modernas.",
+             DeclararVerificar},
     };
     return comandos;
 }

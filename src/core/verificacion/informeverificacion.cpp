@@ -105,10 +105,8 @@ void Informe::Entradas() {
     Agregar({mFrio ? "Coeficiente de Conductividad Térmica (dato)"
                    : "Coeficiente de Conductividad Térmica (T en °F)",
              "BTU plg/pie² h °F", LeyTexto(s.k)});
-    Agregar(
-            {"Longitud característica (altura de paredes y tramos verticales, lado de "
-             "superficies horizontales)",
-             "m", TextoNumero(s.aire.L, "0.0##")});
+    Agregar({s.D > 0 ? "Altura del tramo vertical" : "Longitud característica (altura o lado)", "m",
+             TextoNumero(s.aire.L, "0.0##")});
 }
 
 std::string Informe::UnidadFlujo() const {
@@ -128,7 +126,7 @@ void Informe::Posicion(const PosicionVerificada& p) {
              Relativa(p.QtModerno, programa.Qt)});
     const std::string necesario =
             p.espesorNecesario ? TextoNumero(*p.espesorNecesario) : MasDelMaximo();
-    Agregar({"Espesor exacto para la temperatura exigida", "plg", TextoNumero(programa.exacto),
+    Agregar({"Espesor ideal para la temperatura exigida", "plg", TextoNumero(programa.exacto),
              necesario, p.espesorNecesario ? Relativa(*p.espesorNecesario, programa.exacto) : ""});
     Encabezado(Dictamen(p));
 }

@@ -119,7 +119,9 @@ Verificacion Verificar(const DatosVerificacion& datos, double L) {
         PosicionVerificada p;
         p.programa = programa;
         p.moderno = SuperficieConEspesor(s, programa.E);
-        p.QtModerno = FlujoMostrado(s, programa.E, p.moderno);
+        // A cold surface's flow is shown as the heat it gains.
+        const double Qt = FlujoMostrado(s, programa.E, p.moderno);
+        p.QtModerno = datos.frio ? -Qt : Qt;
         p.espesorNecesario = EspesorNecesario(s, datos.requerida);
         p.cumplePrograma = Cumple(datos.frio, programa.TS, datos.requerida);
         p.cumple = Cumple(datos.frio, p.moderno.TS, datos.requerida);

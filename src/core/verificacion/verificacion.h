@@ -43,6 +43,7 @@ struct PosicionVerificada {
     PracticoPrograma programa;
     /// The program's thickness, by the modern method.
     EstadoSuperficie moderno;
+    /// Its total flow as the program shows it: per pie² h or per foot, a gain when cold.
     double QtModerno = 0;
     /// What the modern method needs to reach the requirement; none past kEspesorMaximo.
     std::optional<double> espesorNecesario;

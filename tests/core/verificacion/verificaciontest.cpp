@@ -8,6 +8,7 @@
 #include "core/verificacion/correlaciones.h"
 #include "core/verificacion/errorverificacion.h"
 #include "core/verificacion/informeverificacion.h"
+#include "core/verificacion/modeloverificacion.h"
 #include "core/verificacion/verificacion.h"
 #include "support/dobles.h"
 
@@ -282,6 +283,30 @@ TEST(InformeVerificacion, DictamenDeCadaPosicion) {
         EXPECT_EQ(informe.TextMatrix(ultima - 2, 0), "Ganancia de Calor Total");
         EXPECT_EQ(informe.TextMatrix(ultima - 2, 1), "BTU/pie h");
     }
+}
+
+// The window takes a length with a point or a comma; anything else is refused with a message
+// and the report of the last verification stays.
+TEST(ModeloVerificacion, LongitudEscrita) {
+    DatosVerificacion datos;
+    datos.producto = 1;
+    datos.sistema = Sistema(Posicion::Vertical, 600, 80, 0);
+    datos.requerida = 140;
+    datos.practicos = {{"SUPERFICIE PLANA VERTICAL", Posicion::Vertical, 1.8, 2, 150, 130}};
+    prueba::PrompterGuion prompter;
+    ModeloVerificacion modelo(datos, "Resultados - Planas [velmar80.adk]", prompter);
+    EXPECT_EQ(modelo.Caption(), "Verificación - Velmar de 80 kg/m³ [velmar80.adk]");
+    ASSERT_TRUE(modelo.Calcular("0,5"));
+    EXPECT_EQ(modelo.Resultado()->datos.sistema.aire.L, 0.5);
+    const int filas = modelo.Informe().Rows();
+    for (const char* texto : {"", "x", "0", "-1", "1e999", "2 m"}) {
+        EXPECT_FALSE(modelo.Calcular(texto)) << texto;
+    }
+    ASSERT_EQ(prompter.mensajes.size(), 6u);
+    EXPECT_EQ(prompter.mensajes[0].texto,
+              "La longitud característica debe ser un número mayor que 0, en metros.");
+    EXPECT_EQ(modelo.Informe().Rows(), filas);
+    EXPECT_EQ(modelo.Resultado()->datos.sistema.aire.L, 0.5);
 }
 
 }  // namespace
