@@ -1,5 +1,6 @@
 #include "gui/app/fabricaprograma.h"
 
+#include "gui/airehumedo/aperturaairehumedo.h"
 #include "gui/app/mdikelvora.h"
 #include "gui/charts/aperturagraficas.h"
 #include "gui/datafile/archivosventanas.h"
@@ -45,6 +46,8 @@ FabricaVentanas CrearFabrica(mdiKelvora& principal, ContextoAplicacion& contexto
             std::bind_front(&VentanasMateriales::ConsultarMateriales, materiales);
     auto* graficas = new AperturaGraficas(principal, contexto, prompter);
     fabrica.Graficar = std::bind_front(&AperturaGraficas::Graficar, graficas);
+    auto* aire = new AperturaAireHumedo(principal, contexto, prompter);
+    fabrica.AireHumedo = std::bind_front(&AperturaAireHumedo::AireHumedo, aire);
     return fabrica;
 }
 

@@ -35,6 +35,7 @@ struct FabricaVentanas {
     std::function<void()> ConvertidorUnidadesPersonalizado;
     std::function<void()> InsertarMaterial;
     std::function<void()> ConsultarMateriales;
+    std::function<void()> AireHumedo;
     /// The help's contents, index and search; left empty, as the three commands do nothing.
     std::function<void(ComandoAyuda comando)> Ayuda;
 };

@@ -279,6 +279,7 @@ void mdiKelvora::ConectarHerramientas() {
             [this] { mFabrica.InsertarMaterial(); });
     connect(mUi->mnuHConsultarMaterial, &QAction::triggered, this,
             [this] { mFabrica.ConsultarMateriales(); });
+    connect(mUi->mnuHAireHumedo, &QAction::triggered, this, [this] { mFabrica.AireHumedo(); });
 }
 
 void mdiKelvora::ConectarVentana() {
@@ -311,6 +312,7 @@ void mdiKelvora::HabilitarComandosFijos() {
     mUi->mnuConvertidorUnidades->setEnabled(static_cast<bool>(mFabrica.ConvertidorUnidades));
     mUi->mnuConvertidorUnidadesPersonalizado->setEnabled(
             static_cast<bool>(mFabrica.ConvertidorUnidadesPersonalizado));
+    mUi->mnuHAireHumedo->setEnabled(static_cast<bool>(mFabrica.AireHumedo));
     for (QAction* ayuda : {mUi->mnuAyudaContenido, mUi->mnuAyudaIndice, mUi->mnuAyudaBusqueda}) {
         ayuda->setEnabled(static_cast<bool>(mFabrica.Ayuda));
     }

@@ -1,5 +1,6 @@
 #include "gui/capturas/capturas.h"
 
+#include "gui/airehumedo/capturasairehumedo.h"
 #include "gui/app/fabricaprograma.h"
 #include "gui/app/frmaboutbox.h"
 #include "gui/app/frmsplash.h"
@@ -56,6 +57,7 @@ const std::vector<Captura>& Capturas() {
         {"frmgraficas-tabla",                        MarcoCapturas<EntornoCaptura>, GraficaEjemplo("data/ejemplos/velmar80.adk", 1, 1)},
         {"frmconsultarmateriales",                   MarcoCapturas<EntornoCaptura>, AbrirConsultaMaterialesCaptura()},
         {"frminsertarmaterial",                      InsertarMaterialCaptura<EntornoCaptura>, {}},
+        {"frmairehumedo",                            MarcoCapturas<EntornoCaptura>, AireHumedoCaptura()},
     };
     // clang-format on
     return capturas;
