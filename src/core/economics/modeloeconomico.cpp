@@ -444,18 +444,28 @@ std::string ModeloEconomico::UnidadCalculo() const {
 }
 
 void ModeloEconomico::Calcular() {
+    const DatosAhorro datos = DatosEntrada(mQSD, mQSA);
+    CalcularAhorro(datos.dimensiones, datos.horas, datos.valor,
+                   static_cast<int16_t>(mCombustible.ListIndex + 1), datos.poder,
+                   mUnidades.at(mVentana.valor.indice).Text, datos.eficiencia);
+}
+
+DatosAhorro ModeloEconomico::DatosEntrada(const std::vector<double>& QSD,
+                                          const std::vector<double>& QSA) const {
     const std::string unidad = UnidadCalculo();
     std::vector<double> dimensiones;
     for (const CajaEconomica& caja : mVentana.dimensiones) {
         dimensiones.push_back(mContexto.Unidades.Convert(Val(mCajas.at(caja.indice).Text),
                                                          mUnidades.at(caja.indice).Text, unidad));
     }
-    const double horas = Val(mHoras.Text);
-    const double valor = Val(mCajas.at(mVentana.valor.indice).Text);
-    const double poder = Val(mCajas.at(mVentana.poder.indice).Text);
-    const float eficiencia = CSng(Val(mCajas.at(mVentana.eficiencia.indice).Text));
-    CalcularAhorro(dimensiones, horas, valor, static_cast<int16_t>(mCombustible.ListIndex + 1),
-                   poder, mUnidades.at(mVentana.valor.indice).Text, eficiencia);
+    return {QSD,
+            QSA,
+            std::move(dimensiones),
+            Val(mHoras.Text),
+            Val(mCajas.at(mVentana.valor.indice).Text),
+            Val(mCajas.at(mVentana.poder.indice).Text),
+            CSng(Val(mCajas.at(mVentana.eficiencia.indice).Text)),
+            mVentana.ordenTotal};
 }
 
 void ModeloEconomico::CalcularAhorro(const std::vector<double>& dimensiones, double horas,

@@ -113,6 +113,12 @@ public:
                         int16_t indiceCombustible, double poder, const std::string& moneda,
                         float eficiencia);
 
+    /// The checks of "C&alcular", in order; the first that fails gives its message and takes the
+    /// focus. True when the data pass.
+    bool Comprobar();
+    /// The saving's inputs as "C&alcular" reads them from the boxes, for the losses given.
+    DatosAhorro DatosEntrada(const std::vector<double>& QSD, const std::vector<double>& QSA) const;
+
     /// The inputs and the values of the last calculation.
     const DatosAhorro& DatosCalculo() const { return mDatos; }
     const Ahorro& Montos() const { return mMontos; }
@@ -138,7 +144,6 @@ private:
     void Seleccionar(ListaAnalisis& lista, int entrada);
     bool EsNombre(int indice) const;
     bool EsResultado(int indice) const;
-    bool Comprobar();
     bool ComprobarDimensiones();
     bool Rechazar(const std::string& texto, const std::string& foco);
     std::string UnidadCalculo() const;
