@@ -1,6 +1,8 @@
 #include "cli/comandos.h"
 
+#include "cli/aire.h"
 #include "cli/calcular.h"
+#include "cli/comparar.h"
 #include "cli/convertir.h"
 #include "cli/economia.h"
 #include "cli/graficar.h"
@@ -143,6 +145,9 @@ const std::vector<Comando>& Comandos() {
             {"verificar",
              "Comprueba cada posición de un proyecto con correlaciones de película modernas.",
              DeclararVerificar},
+            {"comparar", "Calcula cada producto de la familia de un proyecto en caliente.",
+             DeclararComparar},
+            {"aire", "Calcula las propiedades del aire húmedo.", DeclararAire},
     };
     return comandos;
 }

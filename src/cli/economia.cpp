@@ -46,14 +46,9 @@ const std::vector<OpcionConValor> kConValor = {
 
 struct OpcionesEconomia {
     std::string archivo;
-    std::map<std::string, std::string> valores;
+    std::shared_ptr<ValoresEconomicos> valores = std::make_shared<ValoresEconomicos>();
     bool json = false;
     bool sinBD = false;
-
-    const std::string* Valor(const std::string& opcion) const {
-        const auto it = valores.find(opcion);
-        return it == valores.end() ? nullptr : &it->second;
-    }
 };
 
 // A number as a box takes it: a point or a comma as the decimal mark, written with the point.
@@ -96,16 +91,6 @@ std::string Lista(const std::vector<std::string>& entradas) {
     return texto;
 }
 
-class RelojSistema : public Clock {
-public:
-    Fecha Hoy() override {
-        const auto hoy = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
-        const std::chrono::year_month_day fecha(hoy);
-        return {static_cast<int>(fecha.year()), static_cast<int>(unsigned(fecha.month())),
-                static_cast<int>(unsigned(fecha.day()))};
-    }
-};
-
 // Passes every box on and keeps those of the economic window for the JSON listing.
 class PrompterRegistro : public Prompter {
 public:
@@ -129,8 +114,8 @@ private:
 // message on standard error when an option does not fit the window.
 class Llenado {
 public:
-    Llenado(ModeloEconomico& modelo, const OpcionesEconomia& opciones)
-        : mModelo(modelo), mVentana(modelo.Ventana()), mOpciones(opciones) {}
+    Llenado(ModeloEconomico& modelo, const ValoresEconomicos& valores)
+        : mModelo(modelo), mVentana(modelo.Ventana()), mValores(valores) {}
 
     bool Llenar() {
         return Dimensiones() && Horas() && Combustible() && Escrito() && Valor() && Moneda() &&
@@ -138,6 +123,11 @@ public:
     }
 
 private:
+    const std::string* Valor(const std::string& opcion) const {
+        const auto it = mValores.find(opcion);
+        return it == mValores.end() ? nullptr : &it->second;
+    }
+
     bool Rechazar(const std::string& texto) {
         std::cerr << texto << '\n';
         return false;
@@ -145,7 +135,7 @@ private:
 
     bool Escribir(int caja, const std::string& opcion) {
         mModelo.txtValor_GotFocus(caja);
-        const std::string* valor = mOpciones.Valor(opcion);
+        const std::string* valor = Valor(opcion);
         if (valor == nullptr) {
             return true;
         }
@@ -160,13 +150,13 @@ private:
     bool Dimensiones() {
         const bool planas = mVentana.Orientaciones() == 3;
         const std::string propia = planas ? "--areas" : "--longitudes";
-        if (mOpciones.Valor(planas ? "--longitudes" : "--areas") != nullptr) {
+        if (Valor(planas ? "--longitudes" : "--areas") != nullptr) {
             return Rechazar("Este análisis pide " + propia + ".");
         }
         if (!Unidad()) {
             return false;
         }
-        const std::string* lista = mOpciones.Valor(propia);
+        const std::string* lista = Valor(propia);
         const std::vector<std::string> partes = lista ? Partes(*lista) : std::vector<std::string>();
         if (lista != nullptr && partes.size() != mVentana.dimensiones.size()) {
             return Rechazar(propia + " lleva " + std::to_string(mVentana.dimensiones.size()) +
@@ -184,7 +174,7 @@ private:
     }
 
     bool Unidad() {
-        const std::string* unidad = mOpciones.Valor("--unidad");
+        const std::string* unidad = Valor("--unidad");
         if (unidad == nullptr) {
             return true;
         }
@@ -201,7 +191,7 @@ private:
     }
 
     bool Horas() {
-        const std::string* horas = mOpciones.Valor("--horas");
+        const std::string* horas = Valor("--horas");
         if (horas == nullptr) {
             return true;
         }
@@ -214,7 +204,7 @@ private:
     }
 
     bool Combustible() {
-        const std::string* nombre = mOpciones.Valor("--combustible");
+        const std::string* nombre = Valor("--combustible");
         if (nombre == nullptr) {
             return true;
         }
@@ -230,8 +220,8 @@ private:
     // The fuel's name and calorific value are typed only for "Otro".
     bool Escrito() {
         const bool otro = mModelo.txtValor(mVentana.poder.indice).Enabled;
-        const std::string* nombre = mOpciones.Valor("--nombre");
-        if (!otro && (nombre != nullptr || mOpciones.Valor("--poder") != nullptr)) {
+        const std::string* nombre = Valor("--nombre");
+        if (!otro && (nombre != nullptr || Valor("--poder") != nullptr)) {
             return Rechazar("--nombre y --poder solo valen con --combustible Otro.");
         }
         if (nombre != nullptr) {
@@ -244,7 +234,7 @@ private:
     bool Valor() { return Escribir(mVentana.valor.indice, "--valor"); }
 
     bool Moneda() {
-        const std::string* moneda = mOpciones.Valor("--moneda");
+        const std::string* moneda = Valor("--moneda");
         if (moneda == nullptr) {
             return true;
         }
@@ -262,7 +252,7 @@ private:
 
     ModeloEconomico& mModelo;
     const VentanaEconomica& mVentana;
-    const OpcionesEconomia& mOpciones;
+    const ValoresEconomicos& mValores;
 };
 
 // The costs read as the result boxes do: the currency's symbol and the amount.
@@ -351,7 +341,7 @@ int Analizar(ArchivoAbierto& abierto, const OpcionesEconomia& opciones) {
     RelojSistema reloj;
     ModeloEconomico modelo(*tipo, abierto.contexto, prompter, abierto.bomba, reloj);
     modelo.setVariables(ValoresParaAnalisis(*abierto.resultados));
-    if (!Llenado(modelo, opciones).Llenar()) {
+    if (!LlenarEconomia(modelo, *opciones.valores)) {
         return kSalidaUso;
     }
     const std::vector<std::string> faltantes = modelo.DatosFaltantes();
@@ -372,21 +362,35 @@ int Analizar(ArchivoAbierto& abierto, const OpcionesEconomia& opciones) {
 
 }  // namespace
 
+Fecha RelojSistema::Hoy() {
+    const auto hoy = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
+    const std::chrono::year_month_day fecha(hoy);
+    return {static_cast<int>(fecha.year()), static_cast<int>(unsigned(fecha.month())),
+            static_cast<int>(unsigned(fecha.day()))};
+}
+
+void DeclararOpcionesEconomicas(CLI::App& comando,
+                                const std::shared_ptr<ValoresEconomicos>& valores) {
+    for (const OpcionConValor& con : kConValor) {
+        const std::string opcion = con.nombre;
+        comando.add_option_function<std::string>(
+                       opcion,
+                       [valores, opcion](const std::string& valor) { (*valores)[opcion] = valor; },
+                       con.ayuda)
+                ->type_name(con.valor);
+    }
+}
+
+bool LlenarEconomia(ModeloEconomico& modelo, const ValoresEconomicos& valores) {
+    return Llenado(modelo, valores).Llenar();
+}
+
 Ejecucion DeclararEconomia(CLI::App& comando) {
     auto opciones = std::make_shared<OpcionesEconomia>();
     comando.add_option("ARCHIVO", opciones->archivo,
                        "Proyecto .adk en caliente; «-» lo lee de la entrada estándar.")
             ->required();
-    for (const OpcionConValor& con : kConValor) {
-        const std::string opcion = con.nombre;
-        comando.add_option_function<std::string>(
-                       opcion,
-                       [opciones, opcion](const std::string& valor) {
-                           opciones->valores[opcion] = valor;
-                       },
-                       con.ayuda)
-                ->type_name(con.valor);
-    }
+    DeclararOpcionesEconomicas(comando, opciones->valores);
     comando.add_flag("--json", opciones->json, "Un objeto JSON en una línea: entradas y montos.");
     comando.add_flag("--sin-bd", opciones->sinBD, "Calcula sin la base de datos de materiales.");
     return [opciones] {
