@@ -134,7 +134,7 @@ void ArchivosTest::mensajesDelLector() {
         QVERIFY2(Q(b.prompter.mensajes.front().texto).startsWith(QString::fromUtf8(caso.mensaje)),
                  b.prompter.mensajes.front().texto.c_str());
         QCOMPARE(b.prompter.mensajes.front().icono, caso.icono);
-        QCOMPARE(b.marco.VentanasHijas().size(), caso.ventana ? 1 : 0);
+        QCOMPARE(prueba::Ventanas(b.marco).size(), caso.ventana ? 1 : 0);
     }
 }
 
@@ -197,7 +197,7 @@ void ArchivosTest::preguntaAlCerrar() {
             QCOMPARE(pregunta.botones, Botones::SiNoCancelar);
             QCOMPARE(Q(pregunta.titulo), QStringLiteral("Advertencia"));
         }
-        QCOMPARE(b.marco.VentanasHijas().isEmpty(), caso.cerrada);
+        QCOMPARE(prueba::Ventanas(b.marco).isEmpty(), caso.cerrada);
         QCOMPARE(Contenido(archivo) != antes, caso.guardada);
     }
     // The frame asks too, and a Cancelar keeps it open.

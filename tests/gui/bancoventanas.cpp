@@ -13,6 +13,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -155,6 +158,27 @@ Grilla GrillaSinVentanas(const std::string& archivo) {
         return {};
     }
     return destino.ventana->MSFG();
+}
+
+QStringList Ventanas(const mdiKelvora& marco) {
+    auto* menu = marco.findChild<QMenu*>(QStringLiteral("mnuWindow"));
+    Q_EMIT menu->aboutToShow();
+    QStringList lista;
+    for (const QAction* accion : menu->actions()) {
+        if (accion->isCheckable()) {
+            lista << accion->text() + (accion->isChecked() ? "*" : "");
+        }
+    }
+    const QList<QMdiSubWindow*> marcos = marco.findChild<QMdiArea*>()->subWindowList();
+    if (marcos.size() != lista.size()) {
+        lista << QStringLiteral("(menú distinto)");
+    }
+    for (const QMdiSubWindow* hija : marcos) {
+        if (hija->widget() == nullptr) {
+            lista << QStringLiteral("(vacía)");
+        }
+    }
+    return lista;
 }
 
 QWidget* Hijo(const QWidget* ventana, const QString& nombre) {

@@ -78,6 +78,11 @@ std::string Ejemplo(const char* nombre);
 /// line does it: no window, the same database.
 Grilla GrillaSinVentanas(const std::string& archivo);
 
+/// The child windows as the user sees them: the entries of the frame's Ventana menu, the active
+/// one ending in "*". A sub-window of the frame's area with no window in it reads "(vacía)",
+/// and a menu that lists another number of windows than the area holds adds "(menú distinto)".
+QStringList Ventanas(const mdiKelvora& marco);
+
 /// Controls of a window by name; a missing one stops the test program.
 QWidget* Hijo(const QWidget* ventana, const QString& nombre);
 QAction* Accion(const QWidget* ventana, const char* nombre);

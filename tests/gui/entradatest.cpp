@@ -138,7 +138,7 @@ void EntradaTest::comandosDeProductoDelMenu() {
     QTest::mouseClick(Caja(b.marco.VentanaActiva(), 1), Qt::LeftButton);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     b.Esperar();
-    QCOMPARE(b.marco.VentanasHijas().size(), 6);
+    QCOMPARE(prueba::Ventanas(b.marco).size(), 6);
     Accion(&b.marco, "mnuATCAOGCTOrbelasPreformadas")->trigger();
     QVERIFY(b.marco.VentanaActiva()->windowTitle().endsWith(QStringLiteral("[1]")));
     Accion(&b.marco, "mnuATCAOPCEKandor")->trigger();
@@ -281,7 +281,7 @@ void EntradaTest::teclasDeAcceso() {
     QCOMPARE(QApplication::focusWidget(), Caja(v, 7));
     // "C&alcular" wins over "&Archivo".
     QTest::keyClick(Caja(v, 7), Qt::Key_A, Qt::AltModifier);
-    QCOMPARE(b.marco.VentanasHijas().size(), 2);
+    QCOMPARE(prueba::Ventanas(b.marco).size(), 2);
     QCOMPARE(b.marco.VentanaActiva()->windowTitle(),
              QStringLiteral(
                      "Resultados - Transferencia de Calor para Superficies Planas (Calor) [1]"));
@@ -317,7 +317,7 @@ void EntradaTest::validacionEnOrden() {
         QVERIFY2(!b.prompter.mensajes.empty(), caso.mensaje);
         QCOMPARE(Q(b.prompter.mensajes.back().texto), QString::fromUtf8(caso.mensaje));
         QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(caso.foco));
-        QCOMPARE(b.marco.VentanasHijas().size(), 1);
+        QCOMPARE(prueba::Ventanas(b.marco).size(), 1);
         QCOMPARE(Desacuerdo(*v), QString());
     }
     // Above the product's limit the question comes; Cancelar stops in box 1, Aceptar goes on.

@@ -211,7 +211,7 @@ void GraficasTest::unaSerieALaVezYCerrarLaDetiene() {
     }
     b.Esperar();
     QVERIFY(cerrada.isNull());
-    QCOMPARE(b.marco.VentanasHijas().size(), 2);
+    QCOMPARE(prueba::Ventanas(b.marco).size(), 2);
     QVERIFY(b.prompter.mensajes.empty());
 }
 

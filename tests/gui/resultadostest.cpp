@@ -105,7 +105,11 @@ void ResultadosTest::grillaIgualAlCalculoSinVentanas() {
 void ResultadosTest::numeradasYSinInformesTodavia() {
     BancoVentanas b;
     frmDatosEntrada* v = b.Abrir("velmar80.adk");
-    frmResultados* primera = b.Calcular(v);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::AltModifier);
+    b.Esperar();
+    auto* primera = qobject_cast<frmResultados*>(b.marco.VentanasHijas().back());
+    QVERIFY(primera != nullptr);
+    QCOMPARE(b.marco.VentanaActiva(), primera);
     QVERIFY(b.Calcular(v)->windowTitle().endsWith(QStringLiteral("[2]")));
     QVERIFY(primera->windowTitle().endsWith(QStringLiteral("[1]")));
     QCOMPARE(Boton(primera, "cmdCancelar")->text(), QStringLiteral("Cerrar"));
@@ -116,7 +120,7 @@ void ResultadosTest::numeradasYSinInformesTodavia() {
     QTest::mouseClick(Boton(primera, "cmdCancelar"), Qt::LeftButton);
     b.Esperar();
     QVERIFY(b.Calcular(v)->windowTitle().endsWith(QStringLiteral("[1]")));
-    QCOMPARE(b.marco.VentanasHijas().size(), 3);
+    QCOMPARE(prueba::Ventanas(b.marco).size(), 3);
     // The entry window keeps its data; the cold windows have no economic analysis.
     QCOMPARE(FileStateDe(v), 1);
     frmResultados* frio = b.Calcular(b.Abrir("orbelas-poliuretano.adk"));
@@ -171,15 +175,15 @@ void ResultadosTest::cerrarMientrasCalcula() {
     });
     QVERIFY(b.Calcular(v) == nullptr);
     QVERIFY(esperaba);
-    QCOMPARE(b.marco.VentanasHijas(), QList<QWidget*>{v});
+    QCOMPARE(prueba::Ventanas(b.marco).size(), 1);
     QVERIFY(b.prompter.mensajes.empty());
     // The entry window closed during a calculation goes once the results stand.
     MientrasCalcula(
             b, [v](frmResultados*) { QTest::mouseClick(Boton(v, "cmdCancelar"), Qt::LeftButton); });
     QTest::mouseClick(Boton(v, "cmdAceptar"), Qt::LeftButton);
     b.Esperar();
+    QCOMPARE(prueba::Ventanas(b.marco).size(), 1);
     const QList<QWidget*> hijas = b.marco.VentanasHijas();
-    QCOMPARE(hijas.size(), 1);
     auto* r = qobject_cast<frmResultados*>(hijas.front());
     QVERIFY(r != nullptr);
     QCOMPARE(MSFG(r)->rowCount(), 70);

@@ -100,6 +100,8 @@ QMdiSubWindow* mdiKelvora::AgregarHija(QWidget* ventana) {
     ventana->setAttribute(Qt::WA_DeleteOnClose);
     ventana->installEventFilter(this);
     QMdiSubWindow* marco = mUi->mdiArea->addSubWindow(ventana);
+    // A child that closes itself takes its sub-window with it, as the frame's own close does.
+    connect(ventana, &QObject::destroyed, marco, &QWidget::close, Qt::QueuedConnection);
     marco->show();
     mUi->mdiArea->setActiveSubWindow(marco);
     Actualizar();

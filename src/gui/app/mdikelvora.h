@@ -38,7 +38,8 @@ public:
     /// The splash window, kept out of the way while a file from outside is opened.
     void PonerSplash(QWidget* splash);
 
-    /// Places a window in the frame as a child and shows it.
+    /// Places a window in the frame as a child and shows it. The child is deleted when it
+    /// closes, and a child that closes itself (`close()`) takes its sub-window with it.
     QMdiSubWindow* AgregarHija(QWidget* ventana);
     /// The active child, or nullptr.
     QWidget* VentanaActiva() const;

@@ -17,6 +17,9 @@ namespace kelvora {
 /// menus and toolbar into line. A data entry window (objectName starting "frmDatosEntrada")
 /// also declares `Q_INVOKABLE void Activar();`, which the frame calls when the emissivity
 /// option changes.
+///
+/// A child unloads itself with its own `close()` (a "Cerrar" or "Cancelar" button, Escape, a
+/// failed calculation): the frame then removes its sub-window too.
 inline constexpr char kPropiedadTag[] = "Tag";
 inline constexpr char kPropiedadFileName[] = "FileName";
 inline constexpr char kPropiedadFileState[] = "FileState";
