@@ -134,9 +134,7 @@ void frmGraficas::setTipoGrafica(int16_t tipo, frmDatosEntrada& ventana) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     mModelo.setTipoGrafica(tipo, ventana.Modelo(), NumeroVentana(ventana.Caption()));
     QApplication::restoreOverrideCursor();
-    connect(
-            &ventana, &QObject::destroyed, this, [this] { mModelo.Descargar(); },
-            Qt::UniqueConnection);
+    connect(&ventana, &QObject::destroyed, this, [this] { mModelo.Descargar(); });
     setWindowTitle(Q(mModelo.Caption()));
 }
 
@@ -229,14 +227,12 @@ void frmGraficas::Activar() {
 // Leaving the active place empties the status panel that the read-out writes.
 void frmGraficas::AlEntrarEnMarco(QMdiSubWindow* marco) {
     VentanaActivable::AlEntrarEnMarco(marco);
-    connect(
-            marco, &QMdiSubWindow::windowStateChanged, this,
+    connect(marco, &QMdiSubWindow::windowStateChanged, this,
             [this](Qt::WindowStates antes, Qt::WindowStates ahora) {
                 if ((antes & Qt::WindowActive) && !(ahora & Qt::WindowActive)) {
                     PonerPanel({});
                 }
-            },
-            Qt::UniqueConnection);
+            });
 }
 
 // A series still running holds this window: it is told to stop, and the window closes once it
