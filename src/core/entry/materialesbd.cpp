@@ -21,12 +21,22 @@ void MaterialesBD::Crear() {
 void MaterialesBD::AbrirConexion() {
     Crear();
     if (!mConexion->EstaAbierta()) {
-        mConexion->Open(mContexto.CadenaConexion);
+        mFalloApertura.reset();
+        try {
+            mConexion->Open(mContexto.CadenaConexion);
+        } catch (const RuntimeError& error) {
+            mFalloApertura = error;
+            throw;
+        }
     }
 }
 
+// A lookup on a connection that could not be opened tells why it could not.
 std::string MaterialesBD::LeerMaterial(int32_t codigo, std::string& caja) {
     Crear();
+    if (!mConexion->EstaAbierta() && mFalloApertura) {
+        return MensajeErrorMaterial(*mFalloApertura);
+    }
     return kelvora::LeerMaterial(*mConexion, *mRecordset, codigo, caja);
 }
 
@@ -36,6 +46,7 @@ void MaterialesBD::CerrarConexion() {
     }
     mRecordset.reset();
     mConexion.reset();
+    mFalloApertura.reset();
 }
 
 }  // namespace kelvora

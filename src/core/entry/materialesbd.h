@@ -4,8 +4,10 @@
 #include "core/entry/accesomateriales.h"
 #include "core/materials/conexion.h"
 #include "core/materials/recordset.h"
+#include "core/runtime/runtimeerror.h"
 
 #include <memory>
+#include <optional>
 
 namespace kelvora {
 
@@ -25,6 +27,7 @@ private:
     const ContextoAplicacion& mContexto;
     std::unique_ptr<Conexion> mConexion;
     std::unique_ptr<Recordset> mRecordset;
+    std::optional<RuntimeError> mFalloApertura;
 };
 
 }  // namespace kelvora

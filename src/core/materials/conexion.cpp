@@ -6,6 +6,7 @@
 
 #include <sqlite3.h>
 
+#include <cmath>
 #include <memory>
 
 namespace kelvora {
@@ -75,6 +76,59 @@ Sentencia Preparar(sqlite3* bd, const std::string& sql) {
         throw ErrorBaseDatos("La instrucción SQL contiene más de una sentencia.");
     }
     return sentencia;
+}
+
+// SQLite's affinity of a declared type: anything but text, blob or no type is numeric.
+bool DeclaradaNumerica(sqlite3_stmt* sentencia, int columna) {
+    const char* declarado = sqlite3_column_decltype(sentencia, columna);
+    if (declarado == nullptr || *declarado == '\0') {
+        return false;
+    }
+    const std::string tipo = UCase(declarado);
+    for (const char* noNumerico : {"CHAR", "CLOB", "TEXT", "BLOB"}) {
+        if (tipo.find(noNumerico) != std::string::npos) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string TextoColumna(sqlite3_stmt* sentencia, int columna) {
+    const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(sentencia, columna));
+    return texto != nullptr ? std::string(texto) : std::string();
+}
+
+// "Campo = valor" of the row's primary key, when the statement reads it.
+std::string ClaveFila(sqlite3* bd, sqlite3_stmt* sentencia, const char* tabla) {
+    for (int c = 0; c < sqlite3_column_count(sentencia); ++c) {
+        const char* origen = sqlite3_column_origin_name(sentencia, c);
+        const char* suTabla = sqlite3_column_table_name(sentencia, c);
+        int clave = 0;
+        if (origen != nullptr && suTabla != nullptr && std::string_view(suTabla) == tabla &&
+            sqlite3_table_column_metadata(bd, nullptr, tabla, origen, nullptr, nullptr, nullptr,
+                                          &clave, nullptr) == SQLITE_OK &&
+            clave != 0) {
+            return std::string(origen) + " = " + TextoColumna(sentencia, c);
+        }
+    }
+    return {};
+}
+
+// A numeric column holds a text or an infinity only in a damaged file; it is refused rather
+// than read in a way that would depend on the locale.
+void ComprobarNumero(sqlite3* bd, sqlite3_stmt* sentencia, int columna) {
+    const int tipo = sqlite3_column_type(sentencia, columna);
+    const bool noNumero =
+            tipo == SQLITE_TEXT || tipo == SQLITE_BLOB ||
+            (tipo == SQLITE_FLOAT && !std::isfinite(sqlite3_column_double(sentencia, columna)));
+    if (!noNumero || !DeclaradaNumerica(sentencia, columna)) {
+        return;
+    }
+    const char* tabla = sqlite3_column_table_name(sentencia, columna);
+    const char* campo = sqlite3_column_origin_name(sentencia, columna);
+    throw ErrorValorNoNumerico(tabla != nullptr ? tabla : "", campo != nullptr ? campo : "",
+                               tabla != nullptr ? ClaveFila(bd, sentencia, tabla) : "",
+                               TextoColumna(sentencia, columna));
 }
 
 ValorCampo LeerColumna(sqlite3_stmt* sentencia, int columna) {
@@ -150,10 +204,21 @@ void Conexion::ComprobarArchivo() {
     }
     const auto* resultado = reinterpret_cast<const char*>(sqlite3_column_text(revision.get(), 0));
     if (resultado == nullptr || std::string_view(resultado) != "ok") {
-        throw ErrorBaseDatos(sqlite3_errstr(SQLITE_CORRUPT));
+        throw ErrorMotor(SQLITE_CORRUPT, sqlite3_errstr(SQLITE_CORRUPT));
     }
-    Preparar(mBD, "SELECT * FROM Emisividad");
-    Preparar(mBD, "SELECT * FROM Tubos");
+    for (const char* tabla : {"Emisividad", "Tubos"}) {
+        const std::string sql = std::string("SELECT * FROM ") + tabla;
+        sqlite3_stmt* sentencia = nullptr;
+        const int resultado = sqlite3_prepare_v2(mBD, sql.c_str(), -1, &sentencia, nullptr);
+        sqlite3_finalize(sentencia);
+        if (resultado == SQLITE_ERROR) {
+            throw ErrorBaseDatos(std::string("La base de datos no tiene la tabla ") + tabla +
+                                 " (SQLite: " + sqlite3_errmsg(mBD) + ")");
+        }
+        if (resultado != SQLITE_OK) {
+            throw ErrorSQLite(mBD);
+        }
+    }
 }
 
 void Conexion::Close() {
@@ -204,6 +269,7 @@ ResultadoConsulta Conexion::Consultar(const std::string& sql) {
     while ((paso = sqlite3_step(sentencia.get())) == SQLITE_ROW) {
         std::vector<ValorCampo>& fila = resultado.filas.emplace_back();
         for (int c = 0; c < columnas; ++c) {
+            ComprobarNumero(mBD, sentencia.get(), c);
             fila.push_back(LeerColumna(sentencia.get(), c));
         }
     }

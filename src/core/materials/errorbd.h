@@ -13,8 +13,13 @@ inline constexpr int kErrorBaseDatos = -2147467259;
 
 /// A failure of the database engine with its own message.
 RuntimeError ErrorBaseDatos(std::string descripcion);
-/// The last error of a connection, with the engine's message.
+/// The last error of a connection: its Spanish description, then the engine's own text.
 RuntimeError ErrorSQLite(sqlite3* bd);
+/// An engine failure of result code `codigo` with the engine's text `texto`, described as above.
+RuntimeError ErrorMotor(int codigo, const std::string& texto);
+/// A numeric field whose stored value is not a number, named by table, field and row key.
+RuntimeError ErrorValorNoNumerico(const std::string& tabla, const std::string& campo,
+                                  const std::string& clave, const std::string& valor);
 
 /// A field read with no current row (BOF or EOF).
 RuntimeError ErrorSinRegistroActual();

@@ -22,6 +22,10 @@ std::string LeerFilaActual(const Recordset& recordset, int32_t codigo, std::stri
 
 }  // namespace
 
+std::string MensajeErrorMaterial(const RuntimeError& error) {
+    return "Error al consultar material: " + error.description;
+}
+
 std::string LeerMaterial(Conexion& conexion, Recordset& recordset, int32_t codigo,
                          std::string& caja) {
     std::string resultado;
@@ -29,7 +33,7 @@ std::string LeerMaterial(Conexion& conexion, Recordset& recordset, int32_t codig
         recordset.Open(SqlMaterialPorCodigo(codigo), conexion, TipoCursor::Estatico);
         resultado = LeerFilaActual(recordset, codigo, caja);
     } catch (const RuntimeError& error) {
-        resultado = "Error al consultar material: " + error.description;
+        resultado = MensajeErrorMaterial(error);
     }
     if (recordset.EstaAbierto()) {
         recordset.Close();

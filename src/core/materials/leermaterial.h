@@ -2,6 +2,7 @@
 
 #include "core/materials/conexion.h"
 #include "core/materials/recordset.h"
+#include "core/runtime/runtimeerror.h"
 
 #include <cstdint>
 #include <string>
@@ -14,5 +15,7 @@ namespace kelvora {
 /// says so. On any failure the box keeps its text and the result carries the error.
 std::string LeerMaterial(Conexion& conexion, Recordset& recordset, int32_t codigo,
                          std::string& caja);
+/// The result of a lookup that failed with `error`.
+std::string MensajeErrorMaterial(const RuntimeError& error);
 
 }  // namespace kelvora

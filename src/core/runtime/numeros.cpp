@@ -4,6 +4,7 @@
 #include "core/runtime/localechars.h"
 #include "core/runtime/runtimeerror.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -17,6 +18,10 @@ Digitos DigitosDe(double valor, int significativas) {
     Digitos d;
     if (valor == 0) {
         return d;
+    }
+    // The runtime has no text for an infinity or a NaN: whatever produced one overflowed.
+    if (!std::isfinite(valor)) {
+        throw RuntimeError::DelRuntime(errores::Desbordamiento);
     }
     // to_chars ignores the C locale, which the windowing library sets from the environment.
     char buffer[64];
@@ -50,13 +55,40 @@ bool EsDigito(char c) {
     return c >= '0' && c <= '9';
 }
 
+// The power of ten of the leading digit of [-]digits[.digits][e[±]digits], saturated far
+// beyond the Double range; nullopt for a zero.
+std::optional<int64_t> Magnitud(std::string_view numero) {
+    constexpr int64_t kTope = 1'000'000'000;
+    const size_t e = numero.find_first_of("eE");
+    int64_t exponente = 0;
+    if (e != std::string_view::npos) {
+        size_t p = e + 1;
+        const bool negativo = p < numero.size() && numero[p] == '-';
+        if (p < numero.size() && (numero[p] == '+' || numero[p] == '-')) {
+            ++p;
+        }
+        for (; p < numero.size(); ++p) {
+            exponente = std::min(exponente * 10 + (numero[p] - '0'), kTope);
+        }
+        exponente = negativo ? -exponente : exponente;
+    }
+    const std::string_view mantisa = numero.substr(0, e);
+    const size_t punto = std::min(mantisa.find('.'), mantisa.size());
+    const size_t primera = mantisa.find_first_of("123456789");
+    if (primera == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto posicion = static_cast<int64_t>(punto) - static_cast<int64_t>(primera);
+    return exponente + (primera < punto ? posicion - 1 : posicion);
+}
+
+// Overflow and underflow are told apart by the number's magnitude, digits and exponent together.
 double ConvertirBuffer(const std::string& buffer) {
     double resultado = 0;
     const auto [ptr, ec] = std::from_chars(buffer.data(), buffer.data() + buffer.size(), resultado);
     if (ec == std::errc::result_out_of_range) {
-        // from_chars reports both overflow and underflow; only overflow is an error.
-        const size_t e = buffer.find_first_of("eE");
-        if (e != std::string::npos && buffer[e + 1] != '-') {
+        const std::optional<int64_t> magnitud = Magnitud(buffer);
+        if (magnitud && *magnitud >= 0) {
             throw RuntimeError::DelRuntime(errores::Desbordamiento);
         }
         return 0;
@@ -79,7 +111,10 @@ double ValBase(std::string_view t, size_t pos, int base) {
         if (digito < 0 || digito >= base) {
             break;
         }
-        valor = (valor * base + digito) & 0xFFFFFFFFLL;
+        valor = valor * base + digito;
+        if (valor > 0xFFFFFFFFLL) {
+            throw RuntimeError::DelRuntime(errores::Desbordamiento);
+        }
         ++cifras;
         ++pos;
     }
@@ -194,8 +229,12 @@ std::optional<double> ParsearBaseLocale(std::string_view t, size_t pos, int base
     if (fin == pos) {
         return std::nullopt;
     }
-    const double v = ValBase(t, pos, base);
-    return negativo ? -v : v;
+    try {
+        const double v = ValBase(t, pos, base);
+        return negativo ? -v : v;
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
 }
 
 // Digits with the locale's decimal and thousands separators; false when there is no digit.
@@ -252,7 +291,7 @@ int32_t RedondearEntero(double valor, double minimo, double maximo) {
 }
 
 std::string TextoDigitos(double valor, int significativas, const std::string& decimal) {
-    if (valor == 0 || std::isnan(valor)) {
+    if (valor == 0) {
         return "0";
     }
     const Digitos d = detalle::DigitosDe(valor, significativas);

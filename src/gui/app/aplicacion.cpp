@@ -2,6 +2,7 @@
 
 #include "core/app/arranque.h"
 #include "core/app/contexto.h"
+#include "core/runtime/runtimeerror.h"
 #include "gui/app/fabricaprograma.h"
 #include "gui/app/frmsplash.h"
 #include "gui/app/mdikelvora.h"
@@ -14,6 +15,9 @@
 
 #include <QApplication>
 #include <QPalette>
+
+#include <exception>
+#include <new>
 
 namespace kelvora {
 
@@ -28,6 +32,41 @@ ColoresSistema ColoresDelSistema() {
     return {ColorDe(paleta.color(QPalette::Button)), ColorDe(paleta.color(QPalette::ToolTipBase)),
             ColorDe(paleta.color(QPalette::Base))};
 }
+
+// What a handler lets escape ends in the program's own message instead of ending the process.
+class AplicacionKelvora : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    void PonerPrompter(Prompter* prompter) { mPrompter = prompter; }
+
+    bool notify(QObject* receptor, QEvent* evento) override {
+        try {
+            return QApplication::notify(receptor, evento);
+        } catch (const RuntimeError& error) {
+            Informar(error.description);
+        } catch (const std::bad_alloc&) {
+            Informar("Memoria insuficiente");
+        } catch (const std::exception& error) {
+            Informar(error.what());
+        }
+        return false;
+    }
+
+private:
+    void Informar(const std::string& descripcion) {
+        if (mPrompter == nullptr) {
+            return;
+        }
+        Mensaje mensaje;
+        mensaje.texto = "Error inesperado: " + descripcion;
+        mensaje.icono = Icono::Exclamacion;
+        mensaje.titulo = kTituloAplicacion;
+        mPrompter->MsgBox(mensaje);
+    }
+
+    Prompter* mPrompter = nullptr;
+};
 
 // The arguments as one line, as the command line reached the program.
 std::string LineaComandos() {
@@ -47,7 +86,7 @@ void MostrarSplash(frmSplash& splash) {
 }  // namespace
 
 int EjecutarAplicacion(int argc, char** argv) {
-    QApplication aplicacion(argc, argv);
+    AplicacionKelvora aplicacion(argc, argv);
     QApplication::setApplicationName(QString::fromUtf8(kTituloAplicacion));
     EstablecerLocaleDesdeQt();
 
@@ -63,6 +102,7 @@ int EjecutarAplicacion(int argc, char** argv) {
     QtSettingsStore ajustes;
     QtPrompter cajas;
     PrompterSplash prompter(cajas, contexto, &splash);
+    aplicacion.PonerPrompter(&prompter);
     if (!IniciarContexto(contexto, S(QApplication::applicationDirPath()), ajustes,
                          ColoresDelSistema(), prompter)) {
         QApplication::restoreOverrideCursor();
@@ -94,6 +134,7 @@ int EjecutarAplicacion(int argc, char** argv) {
     QApplication::restoreOverrideCursor();
     const int salida = QApplication::exec();
     receptor.Detener();
+    aplicacion.PonerPrompter(nullptr);
     return salida;
 }
 

@@ -217,6 +217,54 @@ TEST(EscrituraDatos, ListadosImagenYVentanaSinClase) {
     }
 }
 
+// Saving over a file replaces its content only: a link stays a link, the permissions stay, and
+// a file without write permission is refused as it stands.
+TEST(EscrituraDatos, ReemplazarConservaEnlacePermisosYSoloLectura) {
+    namespace fs = std::filesystem;
+    using fs::perms;
+    CarpetaTemporal carpeta;
+    const std::string destino = carpeta.Ruta("destino.adk");
+    const std::string enlace = carpeta.Ruta("enlace.adk");
+    struct Caso {
+        const char* nombre;
+        perms permisos;
+        bool porEnlace;
+        bool guarda;
+    };
+    // clang-format off
+    const Caso casos[] = {
+        {"permisos propios", perms::owner_read | perms::owner_write | perms::group_read, false, true},
+        {"por un enlace",    perms::owner_read | perms::owner_write,                   true,  true},
+        {"solo lectura",     perms::owner_read | perms::group_read,                    false, false},
+    };
+    // clang-format on
+    for (const Caso& caso : casos) {
+        fs::remove(enlace);
+        prueba::EscribirBytes(destino, "anterior");
+        fs::permissions(destino, caso.permisos);
+        if (caso.porEnlace) {
+            fs::create_symlink("destino.adk", enlace);
+        }
+        VentanaPrueba ventana = VentanaEjemplo();
+        PrompterGuion prompter;
+        SettingsMemoria ajustes;
+        const std::string nombre = caso.porEnlace ? enlace : destino;
+        EXPECT_EQ(GuardarArchivo(ventana, nombre, prompter, ajustes), caso.guarda) << caso.nombre;
+        EXPECT_EQ(LeerBytes(destino) != "anterior", caso.guarda) << caso.nombre;
+        EXPECT_EQ(fs::status(destino).permissions(), caso.permisos) << caso.nombre;
+        EXPECT_EQ(fs::is_symlink(enlace), caso.porEnlace) << caso.nombre;
+        if (!caso.guarda) {
+            ASSERT_EQ(prompter.mensajes.size(), 1u);
+            EXPECT_EQ(prompter.mensajes[0].texto,
+                      "Se ha producido el siguiente error: El archivo '" + destino +
+                              "' es de solo lectura o no tiene permiso para modificarlo. "
+                              "Guárdelo con otro nombre.");
+        }
+        fs::permissions(destino, perms::owner_all);
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(carpeta.carpeta), fs::directory_iterator()), 1);
+}
+
 TEST(EscrituraDatos, UnFalloDejaElArchivoAnterior) {
     CarpetaTemporal carpeta;
     const std::string archivo = carpeta.Ruta("grafica.bmp");

@@ -1,10 +1,14 @@
 #include "core/app/contexto.h"
+#include "core/datafile/archivobytes.h"
 #include "core/datafile/leerarchivo.h"
 #include "core/runtime/codificacion.h"
 #include "support/dobles.h"
 #include "ventanaprueba.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/stat.h>
 
 namespace kelvora {
 namespace {
@@ -136,6 +140,34 @@ TEST(LeerArchivo, ErrorDeLecturaSeInformaYAnotaUnRecienteVacio) {
     EXPECT_EQ(p.Reciente(), "");
     EXPECT_EQ(p.contexto.Unidades.Count(), 2);
     EXPECT_EQ(p.contexto.Unidades.getValueVariable("TemperaturaInterior"), 20);
+}
+
+// What cannot be a data file is refused unread, without waiting on a pipe or reading a device
+// for ever.
+TEST(LeerArchivo, SoloArchivosComunesYDeTamanoAcotado) {
+    Programa p;
+    const std::string tuberia = p.carpeta.Ruta("tuberia.adk");
+    ASSERT_EQ(mkfifo(tuberia.c_str(), 0600), 0);
+    const std::string grande = p.Archivo(kCompleto);
+    std::filesystem::resize_file(grande, kTamanoMaximoLectura + 1);
+    const std::string noComun =
+            "Error: El nombre no corresponde a un archivo común (es una carpeta, un dispositivo o "
+            "una tubería)";
+    // clang-format off
+    const std::pair<std::string, std::string> casos[] = {
+        {"/dev/zero",        noComun},
+        {tuberia,            noComun},
+        {p.carpeta.carpeta,  noComun},
+        {grande,             "Error: El archivo es demasiado grande para ser un archivo de datos"},
+    };
+    // clang-format on
+    for (const auto& [archivo, mensaje] : casos) {
+        p.prompter.mensajes.clear();
+        EXPECT_FALSE(LeerArchivo(archivo, p.entorno, p.Crear())) << archivo;
+        ASSERT_EQ(p.prompter.mensajes.size(), 1u) << archivo;
+        EXPECT_EQ(p.prompter.mensajes.front().texto, mensaje);
+    }
+    EXPECT_TRUE(p.creadas.empty());
 }
 
 TEST(AbrirArchivo, DialogoDesdeLaCarpetaDelProgramaYNombreSinBlancos) {

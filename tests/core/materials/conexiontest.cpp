@@ -1,12 +1,17 @@
 #include "bdtemporal.h"
+#include "core/app/contexto.h"
+#include "core/entry/materialesbd.h"
 #include "core/materials/conexion.h"
 #include "core/materials/recordset.h"
 #include "core/materials/sentencias.h"
 #include "core/runtime/runtimeerror.h"
+#include "support/dobles.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
+#include <tuple>
 
 namespace kelvora {
 namespace {
@@ -66,6 +71,45 @@ TEST(Conexion, SentenciaRechazadaNoCambiaNada) {
         }
         EXPECT_EQ(Instantanea(bd), antes) << caso.sql;
     }
+}
+
+// A numeric field that holds a text or an infinity is refused, the same in every locale, with
+// where it stands; a lookup on a database that could not be opened says why.
+TEST(Conexion, ValorNoNumericoSeRechazaEnCadaLocale) {
+    // clang-format off
+    const std::tuple<const char*, const char*, const char*> casos[] = {
+        {"UPDATE Tubos SET Real = '6,625' WHERE Nominal = 6",   "SELECT * FROM Tubos WHERE Nominal = 6",
+         "En la tabla Tubos, el campo Real del registro Nominal = 6.0 no tiene un número: '6,625'"},
+        {"UPDATE Emisividad SET Emisividad = 9e999 WHERE Codigo = 6", "SELECT Emisividad FROM Emisividad",
+         "En la tabla Emisividad, el campo Emisividad no tiene un número: 'Inf'"},
+    };
+    // clang-format on
+    for (const auto& [dano, consulta, mensaje] : casos) {
+        prueba::BDTemporal bd;
+        bd.Ejecutar(dano);
+        for (const LocaleChars& locale : {LocaleChars::Punto(), LocaleChars::Espanol()}) {
+            prueba::LocaleTemporal temporal(locale);
+            Conexion conexion;
+            conexion.Open(bd.cadena);
+            try {
+                conexion.Consultar(consulta);
+                ADD_FAILURE() << "leída: " << dano;
+            } catch (const RuntimeError& error) {
+                EXPECT_EQ(error.description, mensaje);
+            }
+        }
+    }
+    prueba::BDTemporal bd;
+    std::filesystem::remove(bd.archivo);
+    ContextoAplicacion contexto;
+    contexto.CadenaConexion = bd.cadena;
+    MaterialesBD materiales(contexto);
+    EXPECT_THROW(materiales.AbrirConexion(), RuntimeError);
+    std::string caja = "0.5";
+    EXPECT_EQ(materiales.LeerMaterial(6, caja),
+              "Error al consultar material: No se puede abrir el archivo de la base de datos "
+              "(SQLite: unable to open database file)");
+    EXPECT_EQ(caja, "0.5");
 }
 
 // Only the Data Source of the connection string counts, its key without regard to case.

@@ -60,7 +60,8 @@ TEST(Consultas, LeerMaterialSusResultados) {
         {40, true,  "1",     "LONA VIEJA"},
         {41, true,  "0.125", ""},
         {99, true,  "",      "No existe un material con código 99"},
-        {42, true,  "antes", "Error al consultar material: No coinciden los tipos"},
+        {42, true,  "antes", "Error al consultar material: En la tabla Emisividad, el campo "
+                             "Emisividad del registro Codigo = 42 no tiene un número: 'abc'"},
         {6,  false, "antes", "Error al consultar material: No se permite realizar la operación "
                              "si el objeto está cerrado."},
     };

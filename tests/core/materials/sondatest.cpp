@@ -62,13 +62,13 @@ TEST(Sonda, CadaFalloDaElMensajeYSeSigueConAceptar) {
     };
     // clang-format off
     const std::tuple<const char*, Preparar, const char*> casos[] = {
-        {"falta",        borrar,                              "unable to open database file"},
-        {"otro formato", Escribir(1, "x"),                    "file is not a database"},
-        {"sin tablas",   ConSqlite("DROP TABLE Emisividad"),  "no such table: Emisividad"},
-        {"sin Tubos",    ConSqlite("DROP TABLE Tubos"),       "no such table: Tubos"},
-        {"dañada",       Escribir(4096, "basura basura"),     "database disk image is malformed"},
-        {"truncada",     truncar,                             "database disk image is malformed"},
-        {"bloqueada",    ConSqlite("BEGIN EXCLUSIVE"),        "database is locked"},
+        {"falta",        borrar,                              "No se puede abrir el archivo de la base de datos (SQLite: unable to open database file)"},
+        {"otro formato", Escribir(1, "x"),                    "El archivo no es una base de datos (SQLite: file is not a database)"},
+        {"sin tablas",   ConSqlite("DROP TABLE Emisividad"),  "La base de datos no tiene la tabla Emisividad (SQLite: no such table: Emisividad)"},
+        {"sin Tubos",    ConSqlite("DROP TABLE Tubos"),       "La base de datos no tiene la tabla Tubos (SQLite: no such table: Tubos)"},
+        {"dañada",       Escribir(4096, "basura basura"),     "La base de datos está dañada (SQLite: database disk image is malformed)"},
+        {"truncada",     truncar,                             "La base de datos está dañada (SQLite: database disk image is malformed)"},
+        {"bloqueada",    ConSqlite("BEGIN EXCLUSIVE"),        "La base de datos está bloqueada por otro programa (SQLite: database is locked)"},
     };
     // clang-format on
     for (const auto& [nombre, preparar, descripcion] : casos) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 
 namespace kelvora {
@@ -33,16 +34,38 @@ TEST(Val, PrefijoNumerico) {
     }
 }
 
-TEST(Val, Errores) {
-    for (const char* texto : {"15.5%", "50.5&"}) {
+// Overflow is judged by the value, digits and exponent together; an underflow reads 0.
+TEST(Val, ErroresYLimitesDelDouble) {
+    const std::string ceros400(400, '0');
+    struct Caso {
+        std::string texto;
+        int error;
+        double valor;
+    };
+    // clang-format off
+    const Caso casos[] = {
+        {"15.5%",                          13, 0},
+        {"50.5&",                          13, 0},
+        {"1e400",                          6,  0},
+        {"1" + std::string(309, '0'),      6,  0},
+        {"180e306",                        6,  0},
+        {"-1" + ceros400 + ".5",           6,  0},
+        {"0." + ceros400 + "1e5",          0,  0},
+        {"1e-400",                         0,  0},
+        {"&H100000000",                    6,  0},
+        {"0." + ceros400 + "1e450",        0,  1e49},
+        {ceros400 + "1e-3",                0,  1e-3},
+        {"17976931348623157" + std::string(292, '0'), 0, 1.7976931348623157e308},
+    };
+    // clang-format on
+    for (const Caso& c : casos) {
         try {
-            Val(texto);
-            ADD_FAILURE() << texto;
+            EXPECT_DOUBLE_EQ(Val(c.texto), c.valor) << c.texto;
+            EXPECT_EQ(c.error, 0) << c.texto;
         } catch (const RuntimeError& e) {
-            EXPECT_EQ(e.number, 13);
+            EXPECT_EQ(e.number, c.error) << c.texto;
         }
     }
-    EXPECT_THROW(Val("1e400"), RuntimeError);
 }
 
 TEST(IsNumeric, SegunLocale) {
@@ -167,6 +190,9 @@ TEST(Aritmetica, ErroresDelRuntime) {
         {[] { return Sqr(-1); },                5},
         {[] { return Exp(710); },               6},
         {[] { return Comprobar(1e308 * 10); },  6},
+        {[] { return Val(TextoNumero(HUGE_VAL)); }, 6},
+        {[] { return Val(TextoNumero(-HUGE_VAL)); }, 6},
+        {[] { return Val(TextoNumero(std::nan(""))); }, 6},
     };
     // clang-format on
     for (const Caso& c : casos) {
