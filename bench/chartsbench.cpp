@@ -150,6 +150,23 @@ void SeriePlana(benchmark::State& estado) {
 }
 BENCHMARK(SeriePlana)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 
+// A hot interior of 9,650 °C (17,402 °F): some 17,300 points and as many rows of the table,
+// which must grow without copying what it holds. Target: under 1 s.
+void SerieYTablaExtremas(benchmark::State& estado) {
+    Cajas cajas = kPlana;
+    cajas[0].second = "17402";
+    Proyecto p(TipoEntrada::SuperficiesPlanas, 1, cajas);
+    for (auto _ : estado) {
+        p.grafica.setTipoGrafica(kGraficaCalor, p.ventana, 1);
+        if (!p.grafica.CalcularSerie()) {
+            estado.SkipWithError("la serie se detuvo");
+            return;
+        }
+    }
+    estado.counters["filas"] = p.grafica.MSFG().Rows();
+}
+BENCHMARK(SerieYTablaExtremas)->Unit(benchmark::kMillisecond)->MinTime(3.0);
+
 void SerieTuberia(benchmark::State& estado) {
     SerieContraLlamadas(estado, TipoEntrada::SuperficiesCilindricas, 9, kTuberia, LlamadaSC);
 }

@@ -14,6 +14,14 @@ size_t Grilla::Indice(int fila, int columna) const {
 }
 
 void Grilla::Redimensionar(int filas, int columnas) {
+    // Rows lie one after another: with the same columns the cells stay where they are, and a
+    // grid that grows a row at a time copies nothing but now and then its whole block.
+    if (columnas == mColumnas) {
+        mCeldas.resize(static_cast<size_t>(filas) * static_cast<size_t>(columnas));
+        mFilas = filas;
+        mFilasInfo.resize(static_cast<size_t>(filas));
+        return;
+    }
     std::vector<Celda> celdas(static_cast<size_t>(filas) * static_cast<size_t>(columnas));
     for (int f = 0; f < std::min(filas, mFilas); ++f) {
         for (int c = 0; c < std::min(columnas, mColumnas); ++c) {
