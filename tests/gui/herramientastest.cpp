@@ -50,7 +50,7 @@ private slots:
                 qobject_cast<QMdiSubWindow*>(fria->parentWidget()));
         frmAireHumedo* aire = AbrirAireHumedo(b);
         QVERIFY(aire != nullptr);
-        QVERIFY(b.marco.VentanasHijas().contains(aire));
+        QCOMPARE(prueba::Ventanas(b.marco).size(), 3);
         QVERIFY(!Boton(aire, "cmdAplicar")->isEnabled());
 
         prueba::Escribir(aire, QStringLiteral("txtSeco"), QStringLiteral("80"));
@@ -84,7 +84,7 @@ private slots:
 
         QTest::mouseClick(Boton(aire, "cmdCerrar"), Qt::LeftButton);
         BancoVentanas::Esperar();
-        QCOMPARE(b.marco.VentanasHijas().size(), 2);
+        QCOMPARE(prueba::Ventanas(b.marco).size(), 2);
     }
 };
 

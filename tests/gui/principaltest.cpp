@@ -2,6 +2,7 @@
 #include "core/app/acercade.h"
 #include "core/app/opciones.h"
 #include "core/materials/fuentetubosbd.h"
+#include "gui/airehumedo/aperturaairehumedo.h"
 #include "gui/app/frmaboutbox.h"
 #include "gui/app/frmsplash.h"
 #include "gui/app/mdikelvora.h"
@@ -365,6 +366,10 @@ void PrincipalTest::cadaCierreQuitaSuSubventana() {
         QTest::mouseClick(Boton(b.Nueva(1), "cmdConsultarMaterial_1"), Qt::LeftButton);
         return b.marco.VentanaActiva();
     };
+    const Abrir aire = [](BancoVentanas& b) {
+        (new AperturaAireHumedo(b.marco, b.contexto, b.prompter))->AireHumedo();
+        return b.marco.VentanaActiva();
+    };
     // A pipe size the database does not hold: the calculation fails after its window opened.
     const Abrir sinTubo = [](BancoVentanas& b) {
         frmDatosEntrada* v = b.Abrir("nivara.adk");
@@ -388,6 +393,8 @@ void PrincipalTest::cadaCierreQuitaSuSubventana() {
         {"gráfica, Cerrar",           grafica,    clic("cmdCancelar"), 1},
         {"consulta, elegir",          consulta,   elegir,              1},
         {"consulta, Escape",          consulta,   escape,              1},
+        {"aire húmedo, Cerrar",       aire,       clic("cmdCerrar"),   0},
+        {"aire húmedo, Escape",       aire,       escape,              0},
     };
     // clang-format on
     for (const Caso& caso : casos) {

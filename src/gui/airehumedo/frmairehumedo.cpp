@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QShortcut>
 
 namespace kelvora {
 
@@ -89,6 +90,9 @@ void frmAireHumedo::Conectar() {
     });
     connect(mUi->cmdAplicar, &QPushButton::clicked, this, &frmAireHumedo::cmdAplicar_Click);
     connect(mUi->cmdCerrar, &QPushButton::clicked, this, &QWidget::close);
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, mUi->cmdCerrar, &QPushButton::click);
 }
 
 void frmAireHumedo::ConectarCampo(CampoAire campo) {
