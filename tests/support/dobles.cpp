@@ -52,7 +52,7 @@ double SurfaceGrabadora::TextHeight(const std::string&) const {
 }
 
 void SurfaceGrabadora::Print(const std::string& texto, bool finDeLinea) {
-    llamadas.push_back({"Print", mX, mY, 0, 0, texto});
+    llamadas.push_back({"Print", mX, mY, 0, 0, texto, fuente.negrita});
     if (finDeLinea) {
         mX = 0;
         mY += TextHeight(texto);
@@ -73,6 +73,35 @@ void SurfaceGrabadora::PaintPicture(const std::string& imagen, double x, double 
 void SurfaceGrabadora::SetFont(const Fuente& f) {
     fuente = f;
     llamadas.push_back({"SetFont", 0, 0, 0, 0, f.nombre});
+}
+
+void SurfaceGrabadora::SetPageSize(double ancho, double alto) {
+    pagina = {ancho, alto};
+    llamadas.push_back({"SetPageSize", 0, 0, ancho, alto, {}});
+}
+
+Tamano SurfaceGrabadora::PictureSize(const std::string& imagen) const {
+    const auto it = imagenes.find(imagen);
+    return it == imagenes.end() ? Tamano{} : it->second;
+}
+
+void SurfaceGrabadora::PaintPictureFrom(const std::string& imagen, double x, double y, double ancho,
+                                        double alto, double xOrigen, double) {
+    llamadas.push_back({"PaintPictureFrom", x, y, x + ancho, y + alto, imagen, false, xOrigen});
+}
+
+void SurfaceGrabadora::EndDoc() {
+    llamadas.push_back({"EndDoc", 0, 0, 0, 0, {}});
+}
+
+std::vector<SurfaceGrabadora::Llamada> SurfaceGrabadora::Impresos() const {
+    std::vector<Llamada> impresos;
+    for (const Llamada& llamada : llamadas) {
+        if (llamada.que == "Print") {
+            impresos.push_back(llamada);
+        }
+    }
+    return impresos;
 }
 
 void SurfaceGrabadora::NewPage() {

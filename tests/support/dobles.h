@@ -61,7 +61,8 @@ private:
     Fecha mFecha;
 };
 
-/// Records every drawing call; characters are 2 mm wide and lines 4 mm high.
+/// Records every drawing call; characters are 2 mm wide and lines 4 mm high, a picture's
+/// pixel is 0.25 mm. Its page is 216 × 279 mm until SetPageSize changes it.
 class SurfaceGrabadora : public Surface {
 public:
     struct Llamada {
@@ -71,6 +72,9 @@ public:
         double x2 = 0;
         double y2 = 0;
         std::string texto;
+        /// Print: the font was bold. PaintPictureFrom: the source's x offset.
+        bool negrita = false;
+        double origen = 0;
     };
 
     double CurrentX() const override { return mX; }
@@ -85,9 +89,25 @@ public:
                       double alto) override;
     void SetFont(const Fuente& fuente) override;
     void NewPage() override;
+    Fuente Font() const override { return fuente; }
+    void SetPageSize(double ancho, double alto) override;
+    double ScaleWidth() const override { return pagina.ancho; }
+    double ScaleHeight() const override { return pagina.alto; }
+    Tamano PictureSize(const std::string& imagen) const override;
+    double ScaleX(double pixeles) const override { return pixeles / 4; }
+    double ScaleY(double pixeles) const override { return pixeles / 4; }
+    void PaintPictureFrom(const std::string& imagen, double x, double y, double ancho, double alto,
+                          double xOrigen, double yOrigen) override;
+    void EndDoc() override;
+
+    /// The texts printed, in order, with nothing else.
+    std::vector<Llamada> Impresos() const;
 
     std::vector<Llamada> llamadas;
     Fuente fuente;
+    Tamano pagina{216, 279};
+    /// Natural sizes of the pictures in pixels; the others have none.
+    std::map<std::string, Tamano> imagenes;
 
 private:
     double mX = 0;

@@ -2,7 +2,7 @@
 
 #include "core/datafile/alineartexto.h"
 #include "core/reports/medircolumnas.h"
-#include "core/runtime/runtimeerror.h"
+#include "core/reports/textolargo.h"
 #include "core/runtime/texto.h"
 
 #include <vector>
@@ -15,7 +15,6 @@ constexpr const char* kFinDeLinea = "\r\n";
 // The same margin as the printed report's columns.
 constexpr int16_t kBlancosColumna = 2;
 constexpr int32_t kAlineacionIzquierda = 2;
-constexpr int kSubindiceFueraDeIntervalo = 9;
 
 struct FormaListado {
     /// Results windows and economic reports set their headings apart with an empty line.
@@ -40,18 +39,6 @@ FormaListado FormaDeTag(int tag) {
     }
 }
 
-std::string ItemTextoLargo(const std::string& lista, int32_t indice) {
-    size_t inicio = 0;
-    for (int32_t i = 0; i < indice; ++i) {
-        inicio = lista.find(';', inicio);
-        if (inicio == std::string::npos) {
-            throw RuntimeError(kSubindiceFueraDeIntervalo, "El subíndice está fuera del intervalo");
-        }
-        ++inicio;
-    }
-    return lista.substr(inicio, lista.find(';', inicio) - inicio);
-}
-
 // The window's caption before its "[", in capitals; the whole caption when it has none.
 std::string TituloListado(const std::string& caption) {
     const size_t corchete = caption.find('[');
@@ -64,7 +51,7 @@ double AnchoEnCaracteres(const std::string& texto) {
 
 std::string Celda(const Grilla& grilla, int fila, int columna, float ancho, bool textosLargos) {
     if (textosLargos && grilla.ColData(columna) > 0 && grilla.RowData(fila) > 0) {
-        return ItemTextoLargo(grilla.Tag, grilla.RowData(fila));
+        return TextoLargo(grilla, grilla.RowData(fila));
     }
     return AlinearTexto(grilla.TextMatrix(fila, columna), ancho, kAlineacionIzquierda,
                         !grilla.MergeRow(fila));

@@ -6,8 +6,8 @@
 #include "gui/datafile/archivosventanas.h"
 #include "gui/materials/ventanasmateriales.h"
 #include "gui/platform/texto.h"
+#include "gui/reports/impresionventanas.h"
 
-#include <QPrinterInfo>
 #include <QTimer>
 
 #include <functional>
@@ -26,7 +26,7 @@ std::function<std::string()> NombreImpresoraTrasArrancar(mdiKelvora& principal) 
         *arrancado = true;
         principal.Actualizar();
     });
-    return [arrancado] { return *arrancado ? S(QPrinterInfo::defaultPrinterName()) : ""; };
+    return [arrancado] { return *arrancado ? ImpresionVentanas::NombreImpresora() : ""; };
 }
 
 }  // namespace
@@ -40,6 +40,11 @@ FabricaVentanas CrearFabrica(mdiKelvora& principal, ContextoAplicacion& contexto
     fabrica.GuardarVentana = std::bind_front(&ArchivosVentanas::GuardarVentana, calculo);
     fabrica.PreguntarGuardar = std::bind_front(&ArchivosVentanas::PreguntarGuardar, calculo);
     fabrica.NombreImpresora = NombreImpresoraTrasArrancar(principal);
+    auto* impresion = new ImpresionVentanas(principal, contexto, ajustes, prompter);
+    fabrica.VistaPreliminar = std::bind_front(&ImpresionVentanas::VistaPreliminar, impresion);
+    fabrica.Imprimir = std::bind_front(&ImpresionVentanas::Imprimir, impresion);
+    fabrica.ExportarPdf = std::bind_front(&ImpresionVentanas::ExportarPdf, impresion);
+    fabrica.ConfigurarPagina = std::bind_front(&ImpresionVentanas::ConfigurarPagina, impresion);
     auto* materiales = new VentanasMateriales(principal, contexto, prompter);
     fabrica.InsertarMaterial = std::bind_front(&VentanasMateriales::InsertarMaterial, materiales);
     fabrica.ConsultarMateriales =

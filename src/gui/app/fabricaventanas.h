@@ -26,6 +26,8 @@ struct FabricaVentanas {
     std::function<void(QWidget* ventana)> VistaPreliminar;
     /// Prints a child; `directa` is true from the toolbar, which prints with no dialog.
     std::function<void(QWidget* ventana, bool directa)> Imprimir;
+    /// The active child's document as a PDF file; enabled like Imprimir.
+    std::function<void(QWidget* ventana)> ExportarPdf;
     /// The default printer's name; empty when there is no printer.
     std::function<std::string()> NombreImpresora;
     std::function<void()> ConfigurarPagina;

@@ -149,6 +149,7 @@ void mdiKelvora::Actualizar() {
     mUi->mnuArchivoImprimir->setEnabled(estado.imprimir && mFabrica.Imprimir);
     mUi->Imprimir->setEnabled(estado.imprimir && mFabrica.Imprimir);
     mUi->Imprimir->setToolTip(Q(TooltipImprimir(impresora)));
+    mUi->mnuArchivoExportarPdf->setEnabled(estado.imprimir && mFabrica.ExportarPdf);
     mUi->mnuArchivoVistaPreliminar->setEnabled(estado.imprimir && mFabrica.VistaPreliminar);
     mUi->Vista->setEnabled(estado.imprimir && mFabrica.VistaPreliminar);
     const bool guardar = estado.guardar && mFabrica.GuardarVentana;
@@ -234,6 +235,12 @@ void mdiKelvora::ConectarArchivo() {
     connect(mUi->Vista, &QAction::triggered, mUi->mnuArchivoVistaPreliminar, &QAction::trigger);
     connect(mUi->mnuArchivoImprimir, &QAction::triggered, this, [this] { ImprimirActiva(false); });
     connect(mUi->Imprimir, &QAction::triggered, this, [this] { ImprimirActiva(true); });
+    connect(mUi->mnuArchivoExportarPdf, &QAction::triggered, this, [this] {
+        QWidget* activa = VentanaActiva();
+        if (activa != nullptr && PuedeImprimir(S(TagDe(activa)))) {
+            mFabrica.ExportarPdf(activa);
+        }
+    });
     ConectarOpcion(mUi->mnuArchivoOpcionesConverisonAutomatica,
                    &ContextoAplicacion::ConversionAutomatica);
     ConectarOpcion(mUi->mnuArchivoOpcionesLeerEmisividadBD, &ContextoAplicacion::LeerEmisividadBD);

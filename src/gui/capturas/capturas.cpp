@@ -9,6 +9,7 @@
 #include "gui/datafile/capturasejemplos.h"
 #include "gui/economics/capturaseconomico.h"
 #include "gui/materials/capturasmateriales.h"
+#include "gui/reports/capturasimpresion.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -58,6 +59,14 @@ const std::vector<Captura>& Capturas() {
         {"frmconsultarmateriales",                   MarcoCapturas<EntornoCaptura>, AbrirConsultaMaterialesCaptura()},
         {"frminsertarmaterial",                      InsertarMaterialCaptura<EntornoCaptura>, {}},
         {"frmairehumedo",                            MarcoCapturas<EntornoCaptura>, AireHumedoCaptura()},
+        {"frmvistapreliminar",                       MarcoCapturas<EntornoCaptura>, VistaPreliminarEjemplo(AbrirEjemplo("data/ejemplos/velmar80.adk", true))},
+        {"frmconfigurarpagina", [](EntornoCaptura& e) { return ConfigurarPaginaCaptura(e.contexto, e.ajustes); }, {}},
+        // Printed pages: the picture is replaced by the first page of the PDF written beside it.
+        {"impreso-resultados-planas",            MarcoCapturas<EntornoCaptura>, ImpresoEjemplo("impreso-resultados-planas", AbrirEjemplo("data/ejemplos/velmar80.adk", true))},
+        {"impreso-resultados-cilindricas",       MarcoCapturas<EntornoCaptura>, ImpresoEjemplo("impreso-resultados-cilindricas", AbrirEjemplo("data/ejemplos/nivara.adk", true))},
+        {"impreso-resultados-planas-frio",       MarcoCapturas<EntornoCaptura>, ImpresoEjemplo("impreso-resultados-planas-frio", AbrirEjemplo("data/ejemplos/tavelas-poliuretano.adk", true))},
+        {"impreso-resultados-cilindricas-frio",  MarcoCapturas<EntornoCaptura>, ImpresoEjemplo("impreso-resultados-cilindricas-frio", AbrirEjemplo("data/ejemplos/orbelas-poliuretano.adk", true))},
+        {"impreso-grafica",                      MarcoCapturas<EntornoCaptura>, ImpresoEjemplo("impreso-grafica", GraficaEjemplo("data/ejemplos/velmar80.adk", 1, 0))},
     };
     // clang-format on
     return capturas;

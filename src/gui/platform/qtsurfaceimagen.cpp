@@ -1,10 +1,10 @@
 #include "gui/platform/qtsurfaceimagen.h"
 
 #include "core/app/colores.h"
+#include "gui/platform/aplicaciongui.h"
 
 #include <QFont>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace kelvora {
 
@@ -24,21 +23,6 @@ namespace {
 
 constexpr double kMmPorPulgada = 25.4;
 constexpr double kMmPorPunto = kMmPorPulgada / 72.0;
-
-// Fonts and painting need a Qt application; without a display it runs on the offscreen
-// platform.
-void AsegurarAplicacion() {
-    if (QGuiApplication::instance() != nullptr) {
-        return;
-    }
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    static int argc = 1;
-    static char nombre[] = "kelvora";
-    static char* argv[] = {nombre, nullptr};
-    static const auto aplicacion = std::make_unique<QGuiApplication>(argc, argv);
-}
 
 QString Texto(const std::string& texto) {
     return QString::fromStdString(texto);
@@ -62,7 +46,7 @@ QFont FuenteQt(const Fuente& fuente, double pixelesPorMm) {
 
 QtSurfaceImagen::QtSurfaceImagen(double anchoMm, double altoMm, double pixelesPorMm)
     : mAnchoMm(anchoMm), mAltoMm(altoMm), mPixelesPorMm(pixelesPorMm) {
-    AsegurarAplicacion();
+    AsegurarAplicacionGui();
 }
 
 double QtSurfaceImagen::TextWidth(const std::string& texto) const {
