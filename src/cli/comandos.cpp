@@ -6,6 +6,7 @@
 #include "cli/convertir.h"
 #include "cli/economia.h"
 #include "cli/graficar.h"
+#include "cli/imprimir.h"
 #include "cli/materiales.h"
 #include "cli/verificar.h"
 
@@ -142,6 +143,9 @@ const std::vector<Comando>& Comandos() {
              DeclararEconomia},
             {"graficar", "Calcula la gráfica de un proyecto en caliente; la dibuja en PNG o SVG.",
              DeclararGraficar},
+            {"imprimir",
+             "Escribe en PDF el documento impreso de un proyecto: resultados o gráfica.",
+             DeclararImprimir},
             {"verificar",
              "Comprueba cada posición de un proyecto con correlaciones de película modernas.",
              DeclararVerificar},
